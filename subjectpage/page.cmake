@@ -1,0 +1,1 @@
+# Files at the top of the module: page shell, views, trees, dialogs.
