@@ -1,0 +1,42 @@
+#include "tfbaseview.h"
+
+#include "tfchildfilters.h"
+
+TFBaseView::TFBaseView(QWidget *parent)
+    : QFrame(parent)
+{}
+
+TFBaseView::~TFBaseView() = default;
+
+void TFBaseView::reset(qint64) {}
+
+void TFBaseView::startLoading() {}
+
+void TFBaseView::noData() {}
+
+void TFBaseView::finished() {}
+
+FilterParam::DataSourceFilter TFBaseView::order() const
+{
+    return {};
+}
+
+int TFBaseView::viewKind() const
+{
+    return NoView;
+}
+
+QTime TFBaseView::startTime() const
+{
+    return QTime::currentTime();
+}
+
+void TFBaseView::setChildFilters(const QList<FilterParam::Cntrl> &controls, const RowData &row,
+                                 const QString &linkText)
+{
+    TFChildFilters filters(controls, row, linkText);
+    filters.build(filterList());
+    m_parameters = filters.parameters();
+    m_filters = filters.filters();
+    m_parameters.append(order());
+}
