@@ -8,13 +8,17 @@ TFBaseView::TFBaseView(QWidget *parent)
 
 TFBaseView::~TFBaseView() = default;
 
-void TFBaseView::reset(qint64) {}
+void TFBaseView::reset(qint64)
+{}
 
-void TFBaseView::startLoading() {}
+void TFBaseView::startLoading()
+{}
 
-void TFBaseView::noData() {}
+void TFBaseView::noData()
+{}
 
-void TFBaseView::finished() {}
+void TFBaseView::finished()
+{}
 
 FilterParam::DataSourceFilter TFBaseView::order() const
 {

@@ -63,8 +63,9 @@ public:
     virtual QTime startTime() const;
     /// Makes filters and parameters of this view from a row of the main view.
     ///
-    /// \a controls are those of the main view's filter bar, \a linkText says which field of \a row feeds which
-    /// field of this view ("A.FIELD1=B.FIELD2;..."). A field without a link takes its configured default.
+    /// \a controls are those of the main view's filter bar, \a linkText says which field of \a row feeds
+    /// which field of this view ("A.FIELD1=B.FIELD2;..."). A field without a link takes its configured
+    /// default.
     virtual void setChildFilters(const QList<FilterParam::Cntrl> &controls, const RowData &row,
                                  const QString &linkText);
     virtual bool isCross() const = 0;

@@ -69,8 +69,9 @@ FilterParam::Cntrl TFChildFilters::linkedControl(const FilterData &field) const
 
 const TFTableModelData::tagCellValue *TFChildFilters::cell(const QString &name) const
 {
-    const auto hit = std::find_if(m_row.begin(), m_row.end(),
-                                  [&name](const TFTableModelData::tagCellValue &c) { return c.fieldName == name; });
+    const auto hit =
+        std::find_if(m_row.begin(), m_row.end(),
+                     [&name](const TFTableModelData::tagCellValue &c) { return c.fieldName == name; });
     return hit == m_row.end() ? nullptr : &*hit;
 }
 

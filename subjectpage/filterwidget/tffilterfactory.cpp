@@ -57,7 +57,8 @@ FilterParam::DataSourceFilter TFFilterFactory::orderFilter(const QString &clause
     for (const QString &part : parts) {
         const QStringList pieces = part.split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (pieces.size() == 2)
-            terms.insert(pieces.at(0), pieces.at(1).compare(QLatin1String("DESC"), Qt::CaseInsensitive) == 0 ? -1 : 1);
+            terms.insert(pieces.at(0),
+                         pieces.at(1).compare(QLatin1String("DESC"), Qt::CaseInsensitive) == 0 ? -1 : 1);
     }
     return {QStringLiteral("order"), terms};
 }

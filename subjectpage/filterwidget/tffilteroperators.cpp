@@ -6,9 +6,9 @@
 QString TFFilterOperators::serviceWord(const QString &configured)
 {
     static const QHash<QString, QString> words = {
-        {QStringLiteral(">="), QStringLiteral(">=")},   {QStringLiteral(">"), QStringLiteral(">")},
-        {QStringLiteral("<"), QStringLiteral("<")},     {QStringLiteral("<="), QStringLiteral("<=")},
-        {QStringLiteral("="), QStringLiteral("==")},    {QStringLiteral("<>"), QStringLiteral("!=")},
+        {QStringLiteral(">="), QStringLiteral(">=")},     {QStringLiteral(">"), QStringLiteral(">")},
+        {QStringLiteral("<"), QStringLiteral("<")},       {QStringLiteral("<="), QStringLiteral("<=")},
+        {QStringLiteral("="), QStringLiteral("==")},      {QStringLiteral("<>"), QStringLiteral("!=")},
         {QStringLiteral("LIKE"), QStringLiteral("like")}, {QStringLiteral("IN"), QStringLiteral("in")},
         {QStringLiteral("NotIn"), QStringLiteral("nin")}, {QStringLiteral("and"), QStringLiteral("&&")},
         {QStringLiteral("or"), QStringLiteral("||")},

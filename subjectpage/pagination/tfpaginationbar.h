@@ -13,9 +13,9 @@ struct TFPaginationForm;
 /// The line of paging controls under a table: first, previous, a page number to type, the number of pages,
 /// next, last, and a choice of rows a page.
 ///
-/// The bar holds numbers only; who owns it fetches the page when the bar signals. Pages count from 1. The owner
-/// blocks the signals while it applies the figures of a reply, so that applying them fetches nothing. The choice
-/// of rows a page is kept in the user's settings from one bar to the next.
+/// The bar holds numbers only; who owns it fetches the page when the bar signals. Pages count from 1. The
+/// owner blocks the signals while it applies the figures of a reply, so that applying them fetches nothing.
+/// The choice of rows a page is kept in the user's settings from one bar to the next.
 class TFPaginationBar : public QFrame, public ITFSkin
 {
     Q_OBJECT
