@@ -3,9 +3,10 @@
 #include "tfcoreglobal.h"
 
 #include <QByteArray>
-#include <QGenericArgument>
 #include <QObject>
 #include <QVector>
+
+class QMetaMethod;
 
 /// Calls a method of an object by its name, with arguments that are bound beforehand.
 ///
@@ -23,14 +24,17 @@ public:
     InvokerBase();
     ~InvokerBase();
 
-    /// Appends an argument of the type named \a typeName. Ten arguments at most; more are refused with a
-    /// warning.
+    /// Appends an argument of the type named \a typeName; a reference needs no "&". Ten arguments at most;
+    /// more are refused with a warning.
     InvokerBase &bind(const char *typeName, void *argument);
 
-    /// Calls \a method directly. Returns false if \a object is null or has no such invokable method.
+    /// Calls \a method directly. Returns false if \a object is null, and with a warning if it has no
+    /// invokable method of that name for the bound arguments.
     bool invoke(QObject *object, const char *method);
 
 private:
+    bool accepts(const QMetaMethod &candidate, const char *method) const;
+
     struct Argument
     {
         QByteArray typeName;

@@ -3,6 +3,7 @@
 #include "tfcoreglobal.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QVector>
 
@@ -40,5 +41,5 @@ public:
     void addAutoReleasedObject(QObject *object);
 
 private:
-    QVector<QObject *> m_autoReleased;
+    QVector<QPointer<QObject>> m_autoReleased;
 };

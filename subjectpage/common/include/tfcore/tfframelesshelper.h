@@ -2,11 +2,11 @@
 
 #include "tfcoreglobal.h"
 
-#include <QHash>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
 
+class QMouseEvent;
 class QWidget;
 
 /// Makes top-level widgets without a frame movable and resizable by the mouse.
@@ -27,6 +27,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool press(QWidget *widget, const QMouseEvent *event);
+    bool drag(QWidget *widget, const QMouseEvent *event);
     Qt::Edges edgesAt(const QWidget *widget, const QPoint &position) const;
 
     bool m_movable = false;

@@ -4,7 +4,8 @@
 
 #include <QColor>
 
-/// Colours of the current skin that painted code needs and no style sheet gives.
+/// Colours of the current skin that painted code needs and no style sheet gives: the array "tipsColors" of
+/// the skin's file skin.json. User-interface thread only.
 class TFCORE_EXPORT TFGlobalCss
 {
 public:

@@ -34,12 +34,18 @@ public:
     QString signalUrlChanged() override;
     QString signalWindowIconChanged() override;
     QString signalLoadProgressChanged() override;
+    QString url() override;
+    void setUrl(const QString &url) override;
+    QIcon icon() override;
+    QString title() override;
 
     bool hasBack() override;
     void goBack() override;
     bool hasForward() override;
     void goForward() override;
     void stop() override;
+    QList<QUrl> getBackList() override;
+    QList<QUrl> getForwardList() override;
 
     qreal zoom() const override;
     void setZoom(qreal factor) override;
@@ -51,8 +57,17 @@ public:
     void save(QMap<QString, QVariant> &state) override;
     void restore(const QMap<QString, QVariant> &state) override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
 private:
-    bool isStarted() const { return m_started; }
+    void open(const QUrl &url);
 
     bool m_started = false;
+    bool m_muted = false;
+    bool m_javaScript = true;
+    qreal m_zoom = 1.0;
 };

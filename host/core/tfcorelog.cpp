@@ -1,0 +1,3 @@
+#include "tfcorelog.h"
+
+Q_LOGGING_CATEGORY(lcCore, "host.core", QtInfoMsg)
