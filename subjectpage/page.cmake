@@ -1,5 +1,15 @@
 # Files at the top of the module: page shell, views, trees, dialogs.
 
+# The tree model, the menu and the table of constants.
+target_sources(subjectcore PRIVATE
+    filterwidget/tfcacheconfig.cpp filterwidget/tfcacheconfig.h
+    tfmenucfg.cpp tfmenucfg.h
+)
+target_sources(subjectui PRIVATE
+    tftreeitem.cpp tftreeitem.h
+    tftreemodel.cpp tftreemodel.h
+)
+
 # Views and containers.
 target_sources(subjectui PRIVATE
     tfbaseview.cpp tfbaseview.h
