@@ -1,0 +1,70 @@
+#include <gridcontrol/gridband.h>
+
+#include <gridcontrol/gridbandedview.h>
+
+namespace Qtitan {
+
+GridTableBand::GridTableBand(GridViewBase *view, int index)
+    : GridColumnBase(view, index)
+{
+    setTextAlignment(Qt::AlignCenter);
+}
+
+void GridTableBand::setBandIndex(int band)
+{
+    GridTableBand *parent = static_cast<GridBandedTableView *>(view())->getBand(band);
+    if (parent != this && !(parent && parent->isDescendant(this)))
+        setParentBand(parent);
+}
+
+bool GridTableBand::isBottomBand() const
+{
+    const auto *banded = static_cast<GridBandedTableView *>(view());
+    for (int i = 0; i < banded->bandCount(); ++i)
+        if (banded->getBand(i)->parentBand() == this)
+            return false;
+    return true;
+}
+
+bool GridTableBand::isDescendant(const GridTableBand *band) const
+{
+    for (const GridTableBand *above = parentBand(); above; above = above->parentBand())
+        if (above == band)
+            return true;
+    return false;
+}
+
+QVector<GridColumn *> GridTableBand::columns() const
+{
+    QVector<GridColumn *> below;
+    for (GridColumn *column : view()->shownColumns()) {
+        const GridTableBand *parent = column->parentBand();
+        if (parent && (parent == this || parent->isDescendant(this)))
+            below.append(column);
+    }
+    return below;
+}
+
+int GridTableBand::width() const
+{
+    int sum = 0;
+    for (const GridColumn *column : columns())
+        sum += column->width();
+    return sum;
+}
+
+void GridTableBand::setWidth(int pixels)
+{
+    const QVector<GridColumn *> below = columns();
+    int left = width();
+    int wanted = pixels;
+    // Each column takes its share of what is still to give, so that the rounding never adds up.
+    for (GridColumn *column : below) {
+        const int old = column->width();
+        column->setWidth(left > 0 ? qRound(double(wanted) * old / left) : wanted);
+        wanted -= column->width();
+        left -= old;
+    }
+}
+
+} // namespace Qtitan
