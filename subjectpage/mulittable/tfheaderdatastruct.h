@@ -51,7 +51,7 @@ public:
     QString firstUnit() const;
     /// Shows \a unit in the captions of this node and all below it that belong to \a unitCategory, are bands
     /// or unit columns, have a unit text and show it. Leaves every other caption alone.
-    void updateUnit(QString unit, int unitCategory);
+    void updateUnit(const QString &unit, int unitCategory);
     /// Hands the factors and the category of a band down to all its descendants, where both are set.
     void updateChildUnit();
     /// Sets the three fields here and in all descendants.
@@ -60,8 +60,6 @@ public:
     void showBands();
 
 private:
-    void showUnit(const QString &unit, int unitCategory);
-
     HeaderFieldInfo m_info;
     QList<TFTreeStruct *> m_leafCache;
     QString m_reserved1;

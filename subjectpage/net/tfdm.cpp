@@ -1,0 +1,16 @@
+#include "tfdm.h"
+
+#include "tfcore/tfappconfig.h"
+#include "tfcore/tfserviceconfig.h"
+
+namespace {
+const QString ServiceKey = QStringLiteral("servercfg.ini:Subject");
+}
+
+TFDm::TFDm(QObject *owner)
+    : m_owner(owner)
+{
+    TFUc::setBaseUrl(TFServiceConfig::instance()->getHttpUrl(ServiceKey, QString()));
+    TFUc::setUserId(TFAppConfig::instance()->getUserInfo().userId);
+    TFUc::setProductId(TFAppConfig::instance()->getProuctId());
+}

@@ -1,0 +1,86 @@
+#include "httpservice/tfwxrshttp.h"
+
+#include "records/tfcategories.h"
+#include "tfcore/tfappconfig.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QSslConfiguration>
+#include <QThread>
+
+namespace {
+constexpr char TokenHeader[] = "kvt-token";
+constexpr char FormatHeader[] = "kvt-format";
+constexpr char LanguageHeader[] = "kvt-language";
+constexpr char UserHeader[] = "userId";
+constexpr char ProductHeader[] = "prodId";
+constexpr char JsonContent[] = "application/json";
+
+QSslConfiguration trustingConfiguration()
+{
+    QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
+    ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
+    ssl.setProtocol(QSsl::AnyProtocol);
+    ssl.setSslOption(QSsl::SslOptionDisableLegacyRenegotiation, false);
+    return ssl;
+}
+
+QNetworkRequest makeRequest(const QUrl &url, const TFWXRSHttp::Headers &headers)
+{
+    QNetworkRequest request(url);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QByteArray(JsonContent));
+    for (const auto &header : headers)
+        request.setRawHeader(header.first, header.second);
+    const TFAppConfig *config = TFAppConfig::instance();
+    request.setRawHeader(UserHeader, config->getUserInfo().userId.toUtf8());
+    request.setRawHeader(ProductHeader, config->getProuctId().toUtf8());
+    request.setSslConfiguration(trustingConfiguration());
+    return request;
+}
+
+TFWXRSHttp::HttpResult resultOf(QNetworkReply *reply)
+{
+    if (reply->error() != QNetworkReply::NoError) {
+        TFWXRSHttp::HttpResult failed{false, reply->errorString().toUtf8(), QVariant()};
+        qCDebug(lcNet) << "download error:" << failed.data;
+        return failed;
+    }
+    return {true, reply->readAll(), reply->header(QNetworkRequest::CookieHeader)};
+}
+} // namespace
+
+TFWXRSHttp::Headers TFWXRSHttp::headers(const QString &token, const QString &format, const QString &language)
+{
+    Headers list;
+    const auto add = [&list](const char *name, const QString &value) {
+        if (!value.isEmpty())
+            list.append({QByteArray(name), value.toUtf8()});
+    };
+    add(TokenHeader, token);
+    add(FormatHeader, format);
+    add(LanguageHeader, language);
+    return list;
+}
+
+TFWXRSHttp::HttpResult TFWXRSHttp::post(const QUrl &url, const QByteArray &body, const Headers &headers)
+{
+    // A manager of its own for each call: a kept connection waits for the server's delayed acknowledgement.
+    QNetworkAccessManager manager;
+    manager.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
+    QNetworkReply *reply = manager.post(makeRequest(url, headers), body);
+    reply->ignoreSslErrors();
+
+    QEventLoop loop;
+    QObject::connect(&manager, &QNetworkAccessManager::finished, &loop, &QEventLoop::quit);
+    QCoreApplication *application = QCoreApplication::instance();
+    if (application && QThread::currentThread() != application->thread())
+        QObject::connect(application, &QCoreApplication::aboutToQuit, reply, &QNetworkReply::abort);
+    loop.exec();
+
+    const HttpResult result = resultOf(reply);
+    reply->deleteLater();
+    return result;
+}
