@@ -1,5 +1,15 @@
 # Files at the top of the module: page shell, views, trees, dialogs.
 
+# Common support.
+target_sources(subjectcore PRIVATE
+    tftoolsfunc.cpp tftoolsfunc.h
+    tfqsscommon.cpp tfqsscommon.h
+)
+target_sources(subjectui PRIVATE
+    tfmessagebox.cpp tfmessagebox.h
+    resources/messagebox.qrc
+)
+
 # The tree model, the menu and the table of constants.
 target_sources(subjectcore PRIVATE
     filterwidget/tfcacheconfig.cpp filterwidget/tfcacheconfig.h

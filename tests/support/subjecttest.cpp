@@ -31,6 +31,9 @@ void collect(QtMsgType type, const QMessageLogContext &context, const QString &t
             all.previous(type, context, text);
         return;
     }
+    // Said by the offscreen platform for every window that is shown; no fault of ours.
+    if (text == QLatin1String("This plugin does not support propagateSizeHints()"))
+        return;
     QMutexLocker lock(&all.mutex);
     (type == QtWarningMsg ? all.warnings : all.debug).append(text);
 }
