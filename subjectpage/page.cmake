@@ -10,24 +10,26 @@ target_sources(subjectui PRIVATE
     resources/messagebox.qrc
 )
 
-# The navigation trees, the menu and the table of constants.
+# The tree model, the menu and the table of constants.
 target_sources(subjectcore PRIVATE
     filterwidget/tfcacheconfig.cpp filterwidget/tfcacheconfig.h
     tfmenucfg.cpp tfmenucfg.h
 )
 target_sources(subjectui PRIVATE
-    tfrowdelegate.cpp tfrowdelegate.h
-    tfsearchwidget.cpp tfsearchwidget.h
-    tfsubjecttreewidget.cpp tfsubjecttreewidget.h
-    tftreefilterproxymodel.cpp tftreefilterproxymodel.h
     tftreeitem.cpp tftreeitem.h
     tftreemodel.cpp tftreemodel.h
-    tftreewidgetcontainer.cpp tftreewidgetcontainer.h
 )
 
 # Views and containers.
 target_sources(subjectui PRIVATE
     tfbaseview.cpp tfbaseview.h
+    tfchartview.h
     tfchildfilters.cpp tfchildfilters.h
+    tfloadingline.cpp tfloadingline.h
+    tfmainview.cpp tfmainview.h
+    tfrightcontainer.cpp tfrightcontainer.h
+    tfsubjecttablewidget.cpp tfsubjecttablewidget.h
+    tfsubjecttablewidgetflows.cpp
     tfverticalcontainer.cpp tfverticalcontainer.h
+    tfviewfactory.cpp tfviewfactory.h
 )

@@ -8,6 +8,14 @@ TFBaseView::TFBaseView(QWidget *parent)
 
 TFBaseView::~TFBaseView() = default;
 
+QList<QPair<QString, QVariant>> TFBaseView::requestParameters() const
+{
+    QList<QPair<QString, QVariant>> pairs;
+    for (const FilterParam::DataSourceFilter &parameter : m_parameters)
+        pairs.append({parameter.key, parameter.value});
+    return pairs;
+}
+
 void TFBaseView::reset(qint64)
 {}
 

@@ -6,6 +6,7 @@
 #include <QFrame>
 #include <QList>
 #include <QMap>
+#include <QPair>
 #include <QTime>
 #include <QVariant>
 
@@ -33,6 +34,8 @@ public:
     void setFilters(const QList<FilterParam::CustomFilter> &filters) { m_filters = filters; }
     /// Top-level keys of the next request.
     QList<FilterParam::DataSourceFilter> parameters() const { return m_parameters; }
+    /// The same as pairs, as the request builders take them.
+    QList<QPair<QString, QVariant>> requestParameters() const;
     void setParameters(const QList<FilterParam::DataSourceFilter> &parameters) { m_parameters = parameters; }
 
     /// Takes the rows off the screen.

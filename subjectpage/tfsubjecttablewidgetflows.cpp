@@ -1,0 +1,262 @@
+// The flows of the table widget: from configuration, filter and page to requests, and from replies to rows.
+
+#include "tfsubjecttablewidget.h"
+
+#include "filterwidget/tffilterwidget.h"
+#include "jsonparser/tfjsonparser.h"
+#include "jsonparser/tfviewconfigtable.h"
+#include "mulittable/tfheaderdatastruct.h"
+#include "mulittable/tfsubjecttablemodel.h"
+#include "mulittable/tfsujecttableview.h"
+#include "mulittable/tftablegridholder.h"
+#include "net/tfdm.h"
+#include "net/tfjsp.h"
+#include "pagination/tfpaginationbar.h"
+#include "records/tfancestors.h"
+#include "records/tfcategories.h"
+#include "tfcore/invokerbase.h"
+#include "tfcore/tfcore.h"
+
+#include <QSignalBlocker>
+
+namespace {
+enum ReplyFlag { ConfigReply = 0, RowsReply = 1, WholeSetReply = 2 };
+
+const char kMainFrameClass[] = "TFSubjectMainFrame";
+const char kContainerClass[] = "TFRightContainer";
+} // namespace
+
+bool TFSubjectTableWidget::parseConfig(const QJsonValue &json, bool isNew)
+{
+    m_header->clearChildren();
+    if (!m_parser->parseConfig(json, m_header.get())) {
+        qCWarning(lcTable) << "json parse error";
+        finished();
+        return false;
+    }
+    if (isNew) {
+        m_filterBar->setFilterData(m_parser->filterData());
+        if (m_filterBarVisible)
+            m_filterBar->show();
+        m_total = 0;
+        m_pageBar->reset();
+    }
+    if (!isCross() || !isNew)
+        m_header->showBands();
+    if (!m_isMain || !isNew || isOrder())
+        return true;
+
+    clear();
+    updateFilters({});
+    announceSector();
+    requestRows();
+    return true;
+}
+
+void TFSubjectTableWidget::announceSector()
+{
+    const TFViewConfigTable *config = m_parser->viewConfigTable();
+    const QString sector = config ? config->sectorNum() : QString();
+    if (!sector.isEmpty())
+        emit sigSectorNumChanged(sector, config->rootSectorNum());
+}
+
+void TFSubjectTableWidget::load(const FilterParam::DataSourceFilter &pair)
+{
+    updateFilters(pair);
+    requestRows();
+}
+
+void TFSubjectTableWidget::query()
+{
+    m_pageBar->reset();
+    clear();
+    startLoading();
+    updateFilters({});
+    requestPage(m_pageBar->currentPage(), m_pageBar->perCnt(), false);
+}
+
+void TFSubjectTableWidget::updateFilters(const FilterParam::DataSourceFilter &pair)
+{
+    FilterParam::DataSourceFilter extra = pair;
+    if (extra.key.isNull() || extra.value.isNull()) {
+        if (const auto *page = TFAncestors::find<ITFPageContext>(this, kMainFrameClass))
+            extra = page->blockFilter();
+    }
+    QList<FilterParam::DataSourceFilter> parameters;
+    QList<FilterParam::CustomFilter> filters;
+    m_filterBar->finalFilter(parameters, filters);
+    parameters.append(extra);
+    parameters.append(order());
+    setParameters(parameters);
+    setFilters(filters);
+}
+
+void TFSubjectTableWidget::requestRows()
+{
+    if (isCross())
+        requestWholeSet();
+    else
+        requestPage(m_pageBar->currentPage(), m_pageBar->perCnt(), false);
+}
+
+void TFSubjectTableWidget::requestPage(int page, int size, bool noPaging)
+{
+    m_parser->clearData();
+    startLoading();
+    if (!m_dm)
+        return;
+    const TFUc::TFRequestContent content =
+        TFUc::viewDataRequest(viewId(), requestParameters(), filters(), {noPaging, page, size});
+    m_dm->startRequest(content, [this](bool isOk, const QByteArray &data) { takePage(isOk, data); });
+    m_sentContent = content;
+}
+
+void TFSubjectTableWidget::takePage(bool isOk, const QByteArray &data)
+{
+    if (!isOk) {
+        noData();
+        return;
+    }
+    if (m_sentContent == m_appliedContent && m_parser->hasRawRows()) {
+        finished();
+        return;
+    }
+    m_appliedContent = m_sentContent;
+    NtResponse response;
+    if (!TFJSP::parseResponse(data, response) || !isStillWanted()) {
+        noData();
+        return;
+    }
+    handleReply(response.data, QString(), RowsReply);
+}
+
+void TFSubjectTableWidget::requestWholeSet()
+{
+    clear();
+    startLoading();
+    if (!m_dm)
+        return;
+    m_dm->startRequest(TFUc::wholeDataRequest(viewId(), requestParameters(), filters()),
+                       [this](bool isOk, const QByteArray &data) { takeWholeSet(isOk, data); });
+}
+
+void TFSubjectTableWidget::takeWholeSet(bool isOk, const QByteArray &data)
+{
+    NtResponse response;
+    if (isOk && TFJSP::parseResponse(data, response) && isStillWanted())
+        handleReply(response.data, QString(), WholeSetReply);
+}
+
+bool TFSubjectTableWidget::isStillWanted()
+{
+    if (!m_isMain)
+        return true;
+    const auto *container = TFAncestors::find<ITFCurrentView>(this, kContainerClass);
+    if (container && container->currentView() != viewId())
+        return false;
+    if (isOrder())
+        emit clearChildren();
+    return true;
+}
+
+bool TFSubjectTableWidget::handleReply(const QJsonValue &json, const QString &spare, int flag)
+{
+    Q_UNUSED(spare)
+    bool isShown = false;
+    switch (flag) {
+    case ConfigReply:
+        isShown = !m_isMain || parseConfig(json, true);
+        break;
+    case RowsReply:
+        isShown = parseData(json);
+        break;
+    case WholeSetReply:
+        isShown = parseConfig(json, false) && parseData(json);
+        break;
+    default:
+        break;
+    }
+    if (!isShown) {
+        noData();
+        return false;
+    }
+    showTime();
+    if (flag == ConfigReply)
+        return true;
+    finished();
+    if (m_isMain)
+        emit updateChildren();
+    return true;
+}
+
+bool TFSubjectTableWidget::parseData(const QJsonValue &json)
+{
+    qCDebug(lcTable) << "mMultiHeaderData.size() : " << m_header->leaves().size();
+    m_grid = m_gridHolder->makeGrid(m_header.get());
+    connectGrid();
+    if (!m_parser->parseData(json)) {
+        m_grid = nullptr;
+        return false;
+    }
+    m_filterBar->setUnitText(m_header->firstUnit());
+    m_gridHolder->showRows(*m_parser);
+    setDataCount(m_parser->rowCount(), m_parser->pageIndex(), m_parser->pageSize());
+    return true;
+}
+
+void TFSubjectTableWidget::connectGrid()
+{
+    // The grid is the context of what it must not outlive.
+    if (m_isMain) {
+        TFSubjectTableModel *model = m_gridHolder->model();
+        connect(m_grid, &TFSujectTableView::clicked, this, [this, model](int row) {
+            const QVariant values = model->index(row, 0).data(TFSubjectTableModel::RowDataRole);
+            emit sigRowData(values.value<RowData>(), true);
+        });
+    }
+    connect(m_filterBar, &TFFilterWidget::signalComboBoxChanged, m_grid,
+            [this](int unitCode, int unitCategory) {
+                m_gridHolder->setUnit(m_header.get(), unitCode, unitCategory);
+            });
+    connect(m_grid, &TFSujectTableView::linkActivated, this, &TFSubjectTableWidget::openLink);
+}
+
+void TFSubjectTableWidget::openLink(const QString &link)
+{
+    QObject *window = TFCore::instance()->mainWindow();
+    if (link.isEmpty() || !window)
+        return;
+    QString argument = link;
+    InvokerBase invoker;
+    invoker.bind("QString", &argument).invoke(window, "openStringUrl");
+}
+
+void TFSubjectTableWidget::setDataCount(int total, int pageIndex, int pageSize)
+{
+    qCDebug(lcTable) << "===>total cnt:" << total;
+    m_total = total;
+    const QSignalBlocker blocker(m_pageBar);
+    m_pageBar->reset();
+    m_pageBar->setTotalCount(total);
+    m_pageBar->setCurrentPage(pageIndex);
+    m_pageBar->setPerCnt(pageSize);
+}
+
+void TFSubjectTableWidget::exportRows(int type)
+{
+    const TFUc::TFRequestContent content = TFUc::viewDataRequest(
+        viewId(), requestParameters(), filters(), {true, m_pageBar->currentPage(), m_pageBar->perCnt()});
+    m_dm->startRequest(content, [this, type](bool isOk, const QByteArray &data) {
+        if (!isOk) {
+            qCDebug(lcExport) << "isOk:" << isOk << data;
+            return;
+        }
+        QList<QList<QVariant>> rows;
+        if (!m_parser->parseData(data, &rows, m_header.get())) {
+            qCWarning(lcExport) << "parse data failed";
+            return;
+        }
+        emit rowsToExport(type, rows);
+    });
+}
