@@ -1,0 +1,89 @@
+#include "testservice.h"
+
+#include <QHostAddress>
+#include <QJsonDocument>
+#include <QPointer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+TestService::TestService(QObject *parent)
+    : QObject(parent)
+    , m_server(new QTcpServer(this))
+    , m_rule([](const Request &) { return Answer{envelope(QJsonValue())}; })
+{
+    connect(m_server, &QTcpServer::newConnection, this, &TestService::accept);
+    if (!m_server->listen(QHostAddress::LocalHost))
+        qFatal("the test service can't listen: %s", qPrintable(m_server->errorString()));
+}
+
+TestService::~TestService() = default;
+
+QUrl TestService::url() const
+{
+    return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(m_server->serverPort()));
+}
+
+QByteArray TestService::envelope(const QJsonValue &data)
+{
+    const QJsonObject reply{{"state", 0}, {"msg", "ok"}, {"extend", QJsonValue()}, {"data", data}};
+    return QJsonDocument(reply).toJson(QJsonDocument::Compact);
+}
+
+void TestService::accept()
+{
+    while (QTcpSocket *socket = m_server->nextPendingConnection()) {
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
+        connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+            m_pending.remove(socket);
+            socket->deleteLater();
+        });
+    }
+}
+
+void TestService::read(QTcpSocket *socket)
+{
+    QByteArray &bytes = m_pending[socket];
+    bytes += socket->readAll();
+    const int headEnd = bytes.indexOf("\r\n\r\n");
+    if (headEnd < 0)
+        return;
+    QList<QByteArray> lines = bytes.left(headEnd).split('\n');
+    Request request;
+    request.path = QString::fromUtf8(lines.takeFirst().split(' ').value(1));
+    for (const QByteArray &line : qAsConst(lines)) {
+        const int colon = line.indexOf(':');
+        request.headers.insert(line.left(colon).trimmed().toLower(), line.mid(colon + 1).trimmed());
+    }
+    const int length = request.headers.value("content-length").toInt();
+    if (bytes.size() < headEnd + 4 + length)
+        return;
+    request.text = bytes.mid(headEnd + 4, length);
+    request.body = QJsonDocument::fromJson(request.text).object();
+    m_pending.remove(socket);
+    m_requests.append(request);
+    emit requestReceived();
+
+    const Answer reply = m_rule(request);
+    QPointer<QTcpSocket> guard(socket);
+    QTimer::singleShot(reply.delay, this, [this, guard, reply] {
+        if (guard)
+            answer(guard, reply);
+    });
+}
+
+void TestService::answer(QTcpSocket *socket, const Answer &answer)
+{
+    if (answer.isClosed) {
+        socket->abort();
+        return;
+    }
+    QByteArray head =
+        "HTTP/1.1 " + QByteArray::number(answer.status) + " Answer\r\nConnection: close\r\n" +
+        "Content-Type: application/json\r\nContent-Length: " + QByteArray::number(answer.text.size()) +
+        "\r\n";
+    for (const QByteArray &line : answer.headers)
+        head += line + "\r\n";
+    socket->write(head + "\r\n" + answer.text);
+    socket->disconnectFromHost();
+}

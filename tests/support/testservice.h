@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+
+class QTcpServer;
+class QTcpSocket;
+
+/// A real HTTP server on a free loopback port, for tests. It answers by a rule of the test, fails and delays
+/// where the rule says so, and keeps what it received. It lives in the event loop of the test's thread.
+class TestService : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Request
+    {
+        QString path;
+        QHash<QByteArray, QByteArray> headers; ///< names in lower case
+        QByteArray text;
+        QJsonObject body; ///< of the text, empty where that is no object
+    };
+
+    struct Answer
+    {
+        QByteArray text;
+        int status = 200;
+        int delay = 0;                  ///< milliseconds before it goes out
+        bool isClosed = false;          ///< the connection closes instead
+        QList<QByteArray> headers = {}; ///< further header lines, such as "Location: /x"
+    };
+
+    using Rule = std::function<Answer(const Request &)>;
+
+    /// Listens at once. Answers every request with an envelope around null until a rule is set.
+    explicit TestService(QObject *parent = nullptr);
+    ~TestService() override;
+
+    QUrl url() const;
+    void setRule(Rule rule) { m_rule = std::move(rule); }
+    const QList<Request> &requests() const { return m_requests; }
+    void forgetRequests() { m_requests.clear(); }
+
+    /// A good reply around \a data.
+    static QByteArray envelope(const QJsonValue &data);
+
+signals:
+    void requestReceived();
+
+private:
+    void accept();
+    void read(QTcpSocket *socket);
+    void answer(QTcpSocket *socket, const Answer &answer);
+
+    QTcpServer *m_server;
+    QHash<QTcpSocket *, QByteArray> m_pending;
+    Rule m_rule;
+    QList<Request> m_requests;
+};
