@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+
+namespace service {
+
+/// Writing of JSON text straight into a buffer. No document is built: rows go from the query to the reply.
+namespace json {
+
+/// Appends \a text as a JSON string, quotes included.
+void appendText(QByteArray &out, const QString &text);
+
+/// Appends UTF-8 \a text as a JSON string, quotes included.
+void appendUtf8(QByteArray &out, const QByteArray &text);
+
+/// Appends the shortest text that reads back as \a number; `null` where it is not finite.
+void appendNumber(QByteArray &out, double number);
+
+void appendInteger(QByteArray &out, qint64 number);
+
+/// Appends any value of a database: numbers as numbers, NULL as `null`, all else as text.
+void appendVariant(QByteArray &out, const QVariant &value);
+
+} // namespace json
+} // namespace service

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "documentplace.h"
+
+#include <QMap>
+#include <QSet>
+
+namespace service {
+
+/// The topics of `navigation.json` as the wire has them.
+struct Navigation
+{
+    QMap<qint64, QByteArray>
+        topics;         ///< rows by the topic's code: JSON objects joined by commas, the root first
+    QSet<qint64> views; ///< every view that a node names
+};
+
+Navigation readNavigation(const QJsonObject &object, const DocumentPlace &place);
+
+} // namespace service
