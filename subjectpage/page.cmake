@@ -10,14 +10,19 @@ target_sources(subjectui PRIVATE
     resources/messagebox.qrc
 )
 
-# The tree model, the menu and the table of constants.
+# The navigation trees, the menu and the table of constants.
 target_sources(subjectcore PRIVATE
     filterwidget/tfcacheconfig.cpp filterwidget/tfcacheconfig.h
     tfmenucfg.cpp tfmenucfg.h
 )
 target_sources(subjectui PRIVATE
+    tfrowdelegate.cpp tfrowdelegate.h
+    tfsearchwidget.cpp tfsearchwidget.h
+    tfsubjecttreewidget.cpp tfsubjecttreewidget.h
+    tftreefilterproxymodel.cpp tftreefilterproxymodel.h
     tftreeitem.cpp tftreeitem.h
     tftreemodel.cpp tftreemodel.h
+    tftreewidgetcontainer.cpp tftreewidgetcontainer.h
 )
 
 # Views and containers.
@@ -32,4 +37,10 @@ target_sources(subjectui PRIVATE
     tfsubjecttablewidgetflows.cpp
     tfverticalcontainer.cpp tfverticalcontainer.h
     tfviewfactory.cpp tfviewfactory.h
+)
+
+# The page and its frame.
+target_sources(subjectui PRIVATE
+    tfsubjectmainframe.cpp tfsubjectmainframe.h
+    tfsubjectpage.cpp tfsubjectpage.h
 )

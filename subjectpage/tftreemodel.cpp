@@ -58,16 +58,25 @@ std::vector<std::vector<int>> childrenOf(const Nodes &nodes)
     return children;
 }
 
-/// Deletes a tree without recursion: a chain of rows may be deeper than the stack.
+/// Deletes a tree from its leaves upwards: a chain of rows may be deeper than the stack, and an item that is
+/// taken from its parent costs a walk over all below it.
 void destroy(std::unique_ptr<TFTreeItem> root)
 {
-    QList<QStandardItem *> doomed{root.release()};
-    while (!doomed.isEmpty()) {
-        QStandardItem *item = doomed.takeLast();
-        for (int row = item->rowCount() - 1; row >= 0; --row)
-            doomed.append(item->takeChild(row));
-        delete item;
-    }
+    struct Place
+    {
+        QStandardItem *parent;
+        int row;
+    };
+    std::vector<Place> places;
+    const auto addChildren = [&places](QStandardItem *parent) {
+        for (int row = 0; row < parent->rowCount(); ++row)
+            places.push_back({parent, row});
+    };
+    addChildren(root.get());
+    for (size_t i = 0; i < places.size(); ++i)
+        addChildren(places[i].parent->child(places[i].row));
+    for (auto place = places.rbegin(); place != places.rend(); ++place)
+        delete place->parent->takeChild(place->row);
 }
 } // namespace
 

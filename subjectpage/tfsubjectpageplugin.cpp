@@ -1,0 +1,38 @@
+#include "tfsubjectpageplugin.h"
+
+#include <new>
+
+#include "tfsubjectpage.h"
+
+namespace {
+void *constructPage(void *where, const void *)
+{
+    return new (where) TFSubjectPage;
+}
+
+void destructPage(void *page)
+{
+    static_cast<TFSubjectPage *>(page)->~TFSubjectPage();
+}
+
+/// Registered by hand, since a widget can't be copied.
+int registerPage()
+{
+    return QMetaType::registerNormalizedType(
+        "TFSubjectPage", destructPage, constructPage, int(sizeof(TFSubjectPage)),
+        QMetaType::NeedsConstruction | QMetaType::NeedsDestruction, nullptr);
+}
+} // namespace
+
+bool TFSubjectPagePlugin::initialize(const QStringList &, QString *)
+{
+    auto *page = new QObject;
+    page->setObjectName(QStringLiteral("SubjectPage"));
+    page->setProperty("id", QStringLiteral("TFApp.SUBJECT"));
+    page->setProperty("metaId", registerPage());
+    addAutoReleasedObject(page);
+    return true;
+}
+
+void TFSubjectPagePlugin::extensionsInitialized()
+{}

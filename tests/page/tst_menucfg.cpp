@@ -1,0 +1,118 @@
+#include "subjecttest.h"
+
+#include <QTemporaryDir>
+
+#include "tfcore/tfserviceconfig.h"
+#include "tfmenucfg.h"
+
+namespace {
+const char twoMenus[] = R"({"windowTitle": "x", "menubar": [
+    {"menu": "股票专题", "menu_en": "Stocks", "P_NODE_CODE": 2, "menuItem": [
+        {"sectorName": "行情", "sectorCode": "Q", "itemName": "日线", "obj_vw_id": "260"},
+        {"sectorName": "两处", "sectorCode": "B", "itemName": "后", "obj_vw_id": "1641"}]},
+    "no menu", {"menu": "无项", "P_NODE_CODE": 5},
+    {"menu": "F9测试", "menu_en": "", "P_NODE_CODE": 190, "menuItem": [
+        7, {"sectorName": "F9测试", "sectorCode": "F9TEST", "itemName": "F9", "obj_vw_id": "1641"}]},
+    {"menu": "旧", "P_NODE_CODE": 61, "menuItem": [{"itemName": "旧项", "obj_vw_id": "300"}]},
+    {"menu": "新", "P_NODE_CODE": 61, "menuItem": [{"itemName": "新项", "obj_vw_id": "301"}]}]})";
+}
+
+class TestMenuCfg : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void viewsAreLookedUpInTheMenu_data();
+    void viewsAreLookedUpInTheMenu();
+    void englishHostGetsEnglishNames();
+    void brokenMenuLeavesTheTablesEmpty_data();
+    void brokenMenuLeavesTheTablesEmpty();
+
+private:
+    void writeMenu(const QByteArray &json)
+    {
+        QFile file(m_folder.filePath("menu.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(json);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void TestMenuCfg::viewsAreLookedUpInTheMenu_data()
+{
+    QTest::addColumn<QString>("view");
+    QTest::addColumn<int>("topic");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("item");
+
+    QTest::newRow("known") << "260" << 2 << "股票专题"
+                           << "行情/Q/日线/260";
+    QTest::newRow("in two menus") << "1641" << 2 << "股票专题"
+                                  << "两处/B/后/1641";
+    QTest::newRow("leading zero gives an item and no topic") << "01641" << -1 << ""
+                                                             << "两处/B/后/1641";
+    QTest::newRow("menu replaced by a later one keeps its items") << "300" << -1 << ""
+                                                                  << "//旧项/300";
+    QTest::newRow("later menu of one code") << "301" << 61 << "新"
+                                            << "//新项/301";
+    QTest::newRow("unknown") << "999" << -1 << ""
+                             << "///0";
+    QTest::newRow("no number") << "abc" << -1 << ""
+                               << "///0";
+}
+
+void TestMenuCfg::viewsAreLookedUpInTheMenu()
+{
+    QFETCH(QString, view);
+    writeMenu(twoMenus);
+
+    const TFMenuCfg menu(m_folder.path());
+    const MenuItem item = menu.itemOfView(view);
+
+    QTEST(menu.topicOfView(view), "topic");
+    QTEST(menu.topicName(menu.topicOfView(view)), "name");
+    QTEST(QString("%1/%2/%3/%4").arg(item.sectorName, item.sectorCode, item.itemName).arg(item.obj_vw_id),
+          "item");
+    QCOMPARE(menu.topicName(5), QString());
+}
+
+void TestMenuCfg::englishHostGetsEnglishNames()
+{
+    writeMenu(twoMenus);
+    const int before = TFServiceConfig::instance()->getCurrentLang();
+    TFServiceConfig::instance()->setCurrentLang(TFServiceConfig::English);
+
+    const TFMenuCfg menu(m_folder.path());
+    TFServiceConfig::instance()->setCurrentLang(before);
+
+    QCOMPARE(menu.topicName(2), QString("Stocks"));
+    QCOMPARE(menu.topicName(190), QString());
+    QCOMPARE(menu.topicOfView("301"), 61);
+}
+
+void TestMenuCfg::brokenMenuLeavesTheTablesEmpty_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("empty file") << QByteArray();
+    QTest::newRow("null") << QByteArray("null");
+    QTest::newRow("empty object beside the application hides the resource") << QByteArray("{}");
+    QTest::newRow("array") << QByteArray("[1]");
+    QTest::newRow("cut off") << QByteArray(twoMenus).left(200);
+    QTest::newRow("menubar is an object") << QByteArray(R"({"menubar": {}})");
+}
+
+void TestMenuCfg::brokenMenuLeavesTheTablesEmpty()
+{
+    QFETCH(QByteArray, json);
+    writeMenu(json);
+
+    const TFMenuCfg menu(m_folder.path());
+
+    QCOMPARE(menu.topicOfView("260"), -1);
+    QCOMPARE(menu.topicName(2), QString());
+    QCOMPARE(menu.itemOfView("260").obj_vw_id, 0);
+}
+
+SUBJECT_TEST_MAIN(TestMenuCfg)
+#include "tst_menucfg.moc"

@@ -1,0 +1,254 @@
+#include "subjecttest.h"
+
+#include <QAbstractItemModelTester>
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+
+#include "filterwidget/tfcacheconfig.h"
+#include "tftreeitem.h"
+#include "tftreemodel.h"
+#include "treetext.h"
+
+using TreeText::block;
+using TreeText::node;
+
+class TestTreeModel : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void rowsHangUnderTheFirstRowWithTheirParentsCode_data();
+    void rowsHangUnderTheFirstRowWithTheirParentsCode();
+    void valuesThatAreNoRowsGiveNoTree_data();
+    void valuesThatAreNoRowsGiveNoTree();
+    void bothKindsOfTreeObeyTheModelContract();
+    void nodeCarriesItsRow();
+    void checkSpreadsToAllDescendants();
+    void uncheckedChildLeavesItsParentChecked();
+    void mainTreeTakesNoChecks();
+    void hundredThousandRowsTakeLinearTime();
+    void deepChainIsBuiltAndFreed();
+    void secondBuildReplacesTheFirst();
+    void constantsAreFoundByTypeAndFilter();
+};
+
+void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode_data()
+{
+    QTest::addColumn<QJsonArray>("rows");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("child before its parent")
+        << QJsonArray{node(11, 10, "b"), node(10, 2, "a")} << QStringList{"a", "  b"};
+    QTest::newRow("children in array order")
+        << QJsonArray{node(3, 2, "c"), node(1, 2, "a"), node(9, 2, "b")} << QStringList{"c", "a", "b"};
+    QTest::newRow("row with the root's code is dropped")
+        << QJsonArray{node(2, 0, "root"), node(2, 2, "constant"), node(10, 2, "a")} << QStringList{"a"};
+    QTest::newRow("first of two rows with one code takes the children")
+        << QJsonArray{node(10, 2, "a"), node(10, 2, "b"), node(11, 10, "c")} << QStringList{"a", "  c", "b"};
+    QTest::newRow("row that is its own parent goes to the next with its code")
+        << QJsonArray{node(10, 10, "a"), node(10, 2, "b"), node(11, 10, "c")}
+        << QStringList{"b", "  a", "    c"};
+    QTest::newRow("orphans are left out")
+        << QJsonArray{node(10, 77, "a"), node(11, 10, "b"), node(12, 2, "c")} << QStringList{"c"};
+    QTest::newRow("circle is left out") << QJsonArray{node(10, 12, "a"), node(11, 10, "b"), node(12, 11, "c"),
+                                                      node(13, 2, "d"), node(14, 14, "e")}
+                                        << QStringList{"d"};
+    QTest::newRow("row with code 0 does not swallow the root")
+        << QJsonArray{node(0, 2, "zero"), node(10, 2, "a")} << QStringList{"zero", "a"};
+    QTest::newRow("other values are passed over")
+        << QJsonArray{1, "text", QJsonValue(), QJsonArray{}, QJsonObject{}, node(10, 2, "a")}
+        << QStringList{"a"};
+    QTest::newRow("codes as text") << QJsonArray{QJsonObject{{"NODE_CODE", "12"},
+                                                             {"P_NODE_CODE", "2"},
+                                                             {"NODE_CAP", "a"}},
+                                                 node(13, 12, "b")}
+                                   << QStringList{"a", "  b"};
+}
+
+void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode()
+{
+    QFETCH(QJsonArray, rows);
+
+    TFSubjectTreeModel model;
+
+    QVERIFY(model.build(rows, 2, false));
+    QTEST(TreeText::lines(model), "expected");
+}
+
+void TestTreeModel::valuesThatAreNoRowsGiveNoTree_data()
+{
+    QTest::addColumn<QJsonValue>("rows");
+    QTest::newRow("null") << QJsonValue();
+    QTest::newRow("empty array") << QJsonValue(QJsonArray{});
+    QTest::newRow("object") << QJsonValue(QJsonObject{{"a", 1}});
+    QTest::newRow("text") << QJsonValue("[]");
+}
+
+void TestTreeModel::valuesThatAreNoRowsGiveNoTree()
+{
+    QFETCH(QJsonValue, rows);
+
+    TFSubjectTreeModel model;
+
+    QVERIFY(!model.build(rows, 2, false));
+    QCOMPARE(model.rowCount(), 0);
+}
+
+void TestTreeModel::bothKindsOfTreeObeyTheModelContract()
+{
+    TFSubjectTreeModel main;
+    TFSubjectTreeModel blocks;
+    QAbstractItemModelTester mainTester(&main, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QAbstractItemModelTester blockTester(&blocks, QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+    main.build(TreeText::navigation(), 2, false);
+    blocks.build(TreeText::blocks(), 99, true);
+    blocks.setData(blocks.index(0, 0), Qt::Checked, Qt::CheckStateRole);
+    blocks.clearChecks();
+
+    QCOMPARE(TreeText::lines(main), QStringList({"行情", "  日线", "  指数", "    Absolute", "    abbey",
+                                                 "公司", "  资料", "  网站"}));
+    QCOMPARE(TreeText::lines(blocks), QStringList({"沪深", "  上海", "  深圳", "    GEM", "其他"}));
+}
+
+void TestTreeModel::nodeCarriesItsRow()
+{
+    TFSubjectTreeModel model;
+    model.build(QJsonArray{node(10, 2, "网站", 3, 264, "http://a/")}, 2, false);
+    const QModelIndex index = model.index(0, 0);
+
+    QStringList roles;
+    for (int role = TFTreeItem::CodeRole; role <= TFTreeItem::UrlRole; ++role)
+        roles << index.data(role).toString();
+    QCOMPARE(roles, QStringList({"10", "2", "1", "3", "264", "http://a/"}));
+    QCOMPARE(model.headerData(TFTreeItem::CodeRole, Qt::Horizontal).toInt(), 2);
+    QVERIFY(!model.headerData(TFTreeItem::CodeRole, Qt::Vertical).isValid());
+    QVERIFY(!TFSubjectTreeModel::createBlockNode({})->data(TFTreeItem::ViewIdRole).isValid());
+    QVERIFY(debugLines().filter("node infor").join("").contains("10"));
+}
+
+void TestTreeModel::checkSpreadsToAllDescendants()
+{
+    TFSubjectTreeModel model;
+    model.build(TreeText::blocks(), 0, true);
+    QSignalSpy changes(&model, &TFSubjectTreeModel::dataChanged);
+
+    QVERIFY(!model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole));
+    QVERIFY(!model.setData(model.index(1, 0), Qt::PartiallyChecked, Qt::CheckStateRole));
+    QVERIFY(!model.setData(model.index(1, 0), "no state", Qt::CheckStateRole));
+
+    QCOMPARE(TreeText::lines(model),
+             QStringList({"[x] 沪深", "  [x] 上海", "  [x] 深圳", "    [x] GEM", "其他"}));
+    QCOMPARE(changes.count(), 4);
+    QVariantList codes = model.checkedCodes();
+    std::sort(codes.begin(), codes.end());
+    QCOMPARE(codes, QVariantList({1, 2, 3, 4}));
+}
+
+void TestTreeModel::uncheckedChildLeavesItsParentChecked()
+{
+    TFSubjectTreeModel model;
+    model.build(TreeText::blocks(), 0, true);
+    model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
+
+    model.setData(model.index(1, 0, model.index(0, 0)), Qt::Unchecked, Qt::CheckStateRole);
+
+    QCOMPARE(TreeText::lines(model), QStringList({"[x] 沪深", "  [x] 上海", "  深圳", "    GEM", "其他"}));
+    model.clearChecks();
+    QVERIFY(model.checkedCodes().isEmpty());
+    QCOMPARE(model.index(0, 0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+}
+
+void TestTreeModel::mainTreeTakesNoChecks()
+{
+    TFSubjectTreeModel model;
+    model.build(TreeText::navigation(), 2, false);
+    const QModelIndex index = model.index(0, 0);
+
+    QVERIFY(!model.setData(index, Qt::Checked, Qt::CheckStateRole));
+    QVERIFY(!index.data(Qt::CheckStateRole).isValid());
+    QVERIFY(!(index.flags() & Qt::ItemIsUserCheckable));
+    QVERIFY(model.checkedCodes().isEmpty());
+}
+
+void TestTreeModel::hundredThousandRowsTakeLinearTime()
+{
+    // The debug line of each node is not what is measured here.
+    QLoggingCategory::setFilterRules("subject.*.debug=false");
+    const auto milliseconds = [](int count) {
+        QJsonArray rows;
+        for (int i = count; i > 0; --i) // every row before its parent, three levels and more
+            rows.append(node(100 + i, i < 10 ? 2 : 100 + i / 10, QString::number(i)));
+        qint64 best = std::numeric_limits<qint64>::max();
+        for (int round = 0; round < 3; ++round) {
+            QElapsedTimer timer;
+            timer.start();
+            TFSubjectTreeModel model;
+            model.build(rows, 2, false);
+            best = qMin(best, timer.nsecsElapsed());
+        }
+        return best / 1e6;
+    };
+    const double small = milliseconds(10000);
+    const double large = milliseconds(100000);
+    QLoggingCategory::setFilterRules("subject.*.debug=true");
+
+    QVERIFY2(large < 40 * small, qPrintable(QString("%1 ms against %2 ms").arg(large).arg(small)));
+}
+
+void TestTreeModel::deepChainIsBuiltAndFreed()
+{
+    QLoggingCategory::setFilterRules("subject.*.debug=false");
+    constexpr int depth = 100000;
+    QJsonArray rows;
+    for (int i = depth; i > 0; --i)
+        rows.append(block(i, i - 1, QString::number(i)));
+    {
+        TFSubjectTreeModel model;
+        QVERIFY(model.build(rows, 0, true));
+        model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
+        QCOMPARE(model.checkedCodes().size(), depth);
+    }
+    QLoggingCategory::setFilterRules("subject.*.debug=true");
+}
+
+void TestTreeModel::secondBuildReplacesTheFirst()
+{
+    TFSubjectTreeModel model;
+    model.build(TreeText::blocks(), 0, true);
+    model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
+
+    model.build(QJsonArray{node(10, 2, "a")}, 2, false);
+
+    QCOMPARE(TreeText::lines(model), QStringList({"a"}));
+    QVERIFY(model.checkedCodes().isEmpty());
+}
+
+void TestTreeModel::constantsAreFoundByTypeAndFilter()
+{
+    const auto names = [](const QString &type, const QString &filter) {
+        QStringList result;
+        for (const TFCacheRecord &record : TFCacheConfig::instance()->records(type, filter))
+            result << record.value + "=" + record.name;
+        return result.join(" ");
+    };
+    const auto constant = [](const QJsonValue &value, const QString &name, const QJsonValue &type,
+                             const QJsonValue &filter) {
+        return QJsonObject{
+            {"VALUE", value}, {"NAME", name}, {"TYPE", type}, {"FILTER1", filter}, {"NODE_CODE", 2}};
+    };
+
+    TFCacheConfig::instance()->fill(QJsonArray{constant(1, "北京", 7, 86), constant(1234567, "上海", 7, 1),
+                                               constant("x", "文字", "T", "f"), 5,
+                                               constant(3, "天津", 8, 86)});
+    QCOMPARE(names("7", ""), QString("1=北京 1.23457e+06=上海"));
+    QCOMPARE(names("7", "86"), QString("1=北京"));
+    QCOMPARE(names("T", "f"), QString("x=文字"));
+    QCOMPARE(names("9", ""), QString());
+
+    TFCacheConfig::instance()->fill(QJsonObject{{"VALUE", 1}});
+    QCOMPARE(names("7", ""), QString());
+}
+
+SUBJECT_TEST_MAIN(TestTreeModel)
+#include "tst_treemodel.moc"
