@@ -1,19 +1,21 @@
 #pragma once
 
+#include <chrono>
+
 class QJSEngine;
 
 /// Ends a script that runs too long: while a guard lives, a watching thread interrupts the engine once the
 /// time is over, and the evaluation returns an error.
 ///
-/// Cheap enough for one guard an evaluation. Guards may nest on one thread; the outermost one counts. The
-/// interruption is taken back when the guard ends.
+/// Cheap enough for one guard an evaluation. Any number may live at once, on any threads. The interruption is
+/// taken back when the guard ends.
 class TFScriptGuard
 {
 public:
-    /// Milliseconds that one evaluation may take; exact to about 100 ms.
-    static constexpr int DefaultLimit = 1000;
+    /// How long one evaluation may take; exact to about 50 ms.
+    static constexpr std::chrono::milliseconds DefaultLimit{1000};
 
-    explicit TFScriptGuard(QJSEngine *engine, int limit = DefaultLimit);
+    explicit TFScriptGuard(QJSEngine *engine, std::chrono::milliseconds limit = DefaultLimit);
     ~TFScriptGuard();
     TFScriptGuard(const TFScriptGuard &) = delete;
     TFScriptGuard &operator=(const TFScriptGuard &) = delete;
@@ -22,6 +24,9 @@ public:
     bool interrupted() const;
 
 private:
+    friend class TFScriptWatcher;
+
     QJSEngine *m_engine;
-    bool m_armed;
+    std::chrono::steady_clock::time_point m_deadline;
+    bool m_interrupted = false; ///< guarded by the watcher's mutex
 };

@@ -93,10 +93,12 @@ signals:
 
 private:
     template <typename Table> Table *table(int tableId) const;
-    TFTreeStruct *header() const;
+    TFDataJsonTable *dataTable() const;
     ExpressionParse *expressionParse();
     void readTable(const QString &name, const QJsonValue &value);
     void buildHeader();
+    HeaderFieldInfo referenceRecord(const QString &fieldName) const;
+    void expandCaption(QString &caption);
     void buildRows();
 
     TFTreeStruct *m_header = nullptr; ///< not owned

@@ -67,7 +67,7 @@ private:
     void readProperty(const QJsonObject &element);
     void readEntry(const QJsonObject &element);
     std::unique_ptr<TFBaseJsonTable> readExtension(const QString &name, const QJsonObject &element);
-    const Entry *findEntry(bool (*matches)(const QString &name)) const;
+    QString firstValue(bool (*matches)(const QString &name)) const;
     template <typename Table> Table *firstTable(int tableId) const;
 
     std::vector<std::unique_ptr<Entry>> m_entries;

@@ -3,6 +3,23 @@
 #include "httpservice/tfwxrshttp.h"
 #include "records/tfcategories.h"
 #include "tfcore/tfappconfig.h"
+#include "tfcore/tfrequestlog.h"
+
+#include <QElapsedTimer>
+
+namespace {
+void report(const TFRequestRecord &sent, const TFWXRSHttp::HttpResult &result, qint64 milliseconds)
+{
+    TFRequestRecord record = sent;
+    record.ok = result.ok;
+    record.ms = milliseconds;
+    if (result.ok)
+        record.bytes = result.data.size();
+    else
+        record.error = QString::fromUtf8(result.data);
+    TFRequestLog::instance()->report(record);
+}
+} // namespace
 
 void TFSigConnec::emitResult(bool isOk, const QByteArray &data)
 {
@@ -29,7 +46,14 @@ void TFWorkRunnable::run()
 {
     qCDebug(lcNet) << "request " << m_url << m_body << " end \n";
     const auto headers = TFWXRSHttp::headers(TFAppConfig::instance()->getAppToken(), QString(), QString());
+    TFRequestRecord record;
+    record.time = QDateTime::currentDateTime();
+    record.path = m_url.path();
+    record.body = m_body;
+    QElapsedTimer timer;
+    timer.start();
     const TFWXRSHttp::HttpResult result = TFWXRSHttp::post(m_url, m_body, headers);
+    report(record, result, timer.elapsed());
     qCDebug(lcNet) << "response---" << m_url << m_body << " end \n";
     m_carrier->emitResult(result.ok, result.data);
 }

@@ -2,6 +2,8 @@
 
 #include <QSharedData>
 
+#include <algorithm>
+#include <memory>
 #include <tuple>
 #include <vector>
 
@@ -9,16 +11,54 @@ struct TFRowStoreData : QSharedData
 {
     struct Row
     {
-        size_t firstValue;
+        QVariant *values;
         double secuId;
         int layout;
     };
 
-    const TFRowStore::Layout &layoutOf(int row) const { return layouts[rows[row].layout]; }
+    TFRowStoreData() = default;
+    TFRowStoreData(const TFRowStoreData &other)
+        : QSharedData(other)
+        , layouts(other.layouts)
+    {
+        for (const Row &row : other.rows) {
+            QVariant *values = appendRow(row.layout, row.secuId);
+            std::copy_n(row.values, layouts[size_t(row.layout)].cells.size(), values);
+        }
+    }
+
+    const TFRowStore::Layout &layoutOf(int row) const { return layouts[size_t(rows[size_t(row)].layout)]; }
+
+    QVariant *appendRow(int layout, double secuId)
+    {
+        const auto count = size_t(layouts[size_t(layout)].cells.size());
+        if (chunkSize - chunkUsed < count)
+            addChunk(count);
+        QVariant *values = chunks.empty() ? nullptr : chunks.back().get() + chunkUsed;
+        chunkUsed += count;
+        rows.push_back({values, secuId, layout});
+        return values;
+    }
 
     std::vector<TFRowStore::Layout> layouts;
     std::vector<Row> rows;
-    std::vector<QVariant> values;
+
+private:
+    /// Values lie in chunks that never move, each as large as all before it within bounds.
+    void addChunk(size_t needed)
+    {
+        constexpr size_t Smallest = 1024;
+        constexpr size_t Largest = 65536;
+        chunkTotal += chunkSize;
+        chunkSize = std::max(needed, std::clamp(chunkTotal, Smallest, Largest));
+        chunkUsed = 0;
+        chunks.push_back(std::make_unique<QVariant[]>(chunkSize));
+    }
+
+    std::vector<std::unique_ptr<QVariant[]>> chunks;
+    size_t chunkSize = 0;
+    size_t chunkUsed = 0;
+    size_t chunkTotal = 0;
 };
 
 namespace {
@@ -70,7 +110,7 @@ TFRowStore TFRowStore::fromRows(const QList<RowData> &rows)
     TFRowStore store;
     int layout = -1;
     for (const RowData &row : rows) {
-        if (layout < 0 || !fits(store.d->layouts[layout], row))
+        if (layout < 0 || !fits(store.d->layouts[size_t(layout)], row))
             layout = store.addLayout(layoutOf(row));
         QVariant *values = store.appendRow(layout, row.isEmpty() ? 0 : row.first().secuId);
         for (const Cell &cell : row)
@@ -91,7 +131,7 @@ int TFRowStore::cellCount(int row) const
 
 const QVariant &TFRowStore::value(int row, int index) const
 {
-    return d->values[d->rows[row].firstValue + size_t(index)];
+    return d->rows[size_t(row)].values[index];
 }
 
 const TFRowStore::Cell &TFRowStore::prototype(int row, int index) const
@@ -102,7 +142,7 @@ const TFRowStore::Cell &TFRowStore::prototype(int row, int index) const
 double TFRowStore::secuId(int row, int index) const
 {
     const Layout &layout = d->layoutOf(row);
-    return index < layout.securedCells ? d->rows[row].secuId : layout.cells.at(index).secuId;
+    return index < layout.securedCells ? d->rows[size_t(row)].secuId : layout.cells.at(index).secuId;
 }
 
 TFRowStore::Cell TFRowStore::cell(int row, int index) const
@@ -137,10 +177,9 @@ void TFRowStore::clear()
     d = new TFRowStoreData;
 }
 
-void TFRowStore::reserve(int rows, int cells)
+void TFRowStore::reserve(int rows)
 {
     d->rows.reserve(d->rows.size() + size_t(rows));
-    d->values.reserve(d->values.size() + size_t(cells));
 }
 
 int TFRowStore::addLayout(const Layout &layout)
@@ -151,9 +190,5 @@ int TFRowStore::addLayout(const Layout &layout)
 
 QVariant *TFRowStore::appendRow(int layout, double secuId)
 {
-    TFRowStoreData &data = *d;
-    const size_t first = data.values.size();
-    data.rows.push_back({first, secuId, layout});
-    data.values.resize(first + size_t(data.layouts[layout].cells.size()));
-    return data.values.data() + first;
+    return d->appendRow(layout, secuId);
 }

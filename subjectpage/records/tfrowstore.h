@@ -53,12 +53,12 @@ public:
     // Filling.
 
     void clear();
-    /// Announces how much will be appended.
-    void reserve(int rows, int cells);
+    /// Announces how many rows will be appended.
+    void reserve(int rows);
     /// Index of the new layout, for appendRow().
     int addLayout(const Layout &layout);
     /// Appends a row of that layout and returns its values for writing: as many as the layout has cells, all
-    /// invalid. The pointer is good until the next call of a filling operation.
+    /// invalid. The pointer is good as long as the store is neither cleared nor shared.
     QVariant *appendRow(int layout, double secuId);
 
 private:
