@@ -8,6 +8,10 @@
 #include <QMap>
 #include <QVariant>
 
+class FlowLayout;
+class TFBaseFilterWidget;
+class TFCustomMath;
+
 /// The bar of filter controls above a view.
 ///
 /// The bar keeps the rows that describe its controls and turns what the controls report into what the next
@@ -51,7 +55,15 @@ public slots:
     void updateDynamicArgs();
 
 private:
+    void resolveDynamicDefault(FilterParam::Cntrl &cntrl) const;
+    void appendFilter(const FilterParam::Cntrl &entry,
+                      QList<FilterParam::DataSourceFilter> &dataSourceFilters,
+                      QList<FilterParam::CustomFilter> &customFilters) const;
+
     QList<TFTableModelData::FilterData> m_rows;
+    FlowLayout *m_layout;
+    QList<TFBaseFilterWidget *> m_controls; ///< owned by the bar
+    TFCustomMath *m_functions;
     QMap<QString, QVariant> m_dynamicArgs;
     QObject *m_argsCarrier = nullptr; ///< has the property "dynamicArgs"; null until a screen sets it
 };

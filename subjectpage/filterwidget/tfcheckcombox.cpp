@@ -1,0 +1,218 @@
+#include "tfcheckcombox.h"
+
+#include "tffilterdefaults.h"
+#include "tfremotelist.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QToolButton>
+#include <QWidgetAction>
+
+namespace {
+constexpr int AllIndex = -1;
+constexpr int RowHeight = 30;
+constexpr int MaximumHeight = 510;
+constexpr int MaximumTextWidth = 210;
+
+/// Parts of a text at ";" where it has one, else at ",".
+QStringList listParts(const QString &text)
+{
+    const QChar separator = text.contains(QLatin1Char(';')) ? QLatin1Char(';') : QLatin1Char(',');
+    return text.split(separator, Qt::SkipEmptyParts);
+}
+
+int indexOf(const QListWidgetItem *item)
+{
+    return item->data(Qt::UserRole).toInt();
+}
+
+QListWidgetItem *addCheckable(QListWidget *list, const QString &text, int index)
+{
+    auto *item = new QListWidgetItem(text, list);
+    item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsSelectable);
+    item->setCheckState(Qt::Unchecked);
+    item->setData(Qt::UserRole, index);
+    return item;
+}
+} // namespace
+
+TFCheckCombox::TFCheckCombox(const TFTableModelData::FilterData &row, QWidget *parent)
+    : TFBaseFilterWidget(row, parent)
+    , m_button(new QToolButton(this))
+    , m_label(makeLabel())
+    , m_dm(this)
+{
+    buildWidgets();
+    connect(this, &TFCheckCombox::signalItemDataUpdate, this, &TFCheckCombox::slotOnItemDataUpdate);
+    connect(this, &TFCheckCombox::signalItemCheckStatusChanged, this, &TFCheckCombox::slotCheckStatusChanged);
+    fill();
+    selectDefault();
+    setObjectName(QStringLiteral("CustomCheckCombobox"));
+}
+
+void TFCheckCombox::buildWidgets()
+{
+    m_button->setPopupMode(QToolButton::MenuButtonPopup);
+    m_button->setFocusPolicy(Qt::StrongFocus);
+    m_menu = new QMenu(m_button);
+    m_button->setMenu(m_menu);
+    connect(m_button, &QToolButton::clicked, m_button, &QToolButton::showMenu);
+
+    m_list = new QListWidget(m_menu);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setFocusPolicy(Qt::NoFocus);
+    auto *holder = new QWidgetAction(m_menu);
+    holder->setDefaultWidget(m_list);
+    m_menu->addAction(holder);
+    connect(m_list, &QListWidget::itemPressed, this, &TFCheckCombox::slotItemPressed);
+    connect(m_list, &QListWidget::itemClicked, this, &TFCheckCombox::slotItemClicked);
+
+    m_label->setBuddy(m_button);
+    QHBoxLayout *layout = makeLayout(6);
+    layout->addWidget(m_label);
+    layout->addWidget(m_button);
+    setMaximumWidth(300);
+}
+
+void TFCheckCombox::fill()
+{
+    if (!row().DataSourceName.isEmpty()) {
+        m_dm.startRequest(TFRemoteList::request(row()), [this](bool isOk, const QByteArray &data) {
+            if (isOk)
+                emit signalItemDataUpdate(TFRemoteList::entries(data));
+        });
+        return;
+    }
+    if (row().NameValues.isEmpty())
+        return;
+    QMap<QString, QString> byValue;
+    for (const auto &pair : TFFilterDefaults::nameValues(row().NameValues))
+        byValue.insert(pair.second, pair.first);
+    emit signalItemDataUpdate(byValue);
+}
+
+void TFCheckCombox::slotOnItemDataUpdate(QMap<QString, QString> data)
+{
+    m_allItem = addCheckable(m_list, tr("All"), AllIndex);
+    int index = 0;
+    for (auto entry = data.constBegin(); entry != data.constEnd(); ++entry, ++index) {
+        addCheckable(m_list, entry.key(), index);
+        m_texts.insert(index, entry.key());
+        m_values.insert(entry.key(), entry.value());
+    }
+    m_list->setMinimumHeight(qMin(RowHeight * (data.size() + 2), MaximumHeight));
+    m_label->setText(row().Caption);
+    if (!m_texts.isEmpty())
+        checkAll(true);
+    rebuildText();
+}
+
+void TFCheckCombox::selectDefault()
+{
+    if (row().NameValues.isEmpty())
+        return;
+    const QStringList values = listParts(row().DefualtValue);
+    if (values.isEmpty() || values.size() == listParts(row().NameValues).size()) {
+        checkAll(true);
+    } else {
+        for (const QString &value : values)
+            checkDefaultValue(value);
+    }
+    rebuildText();
+}
+
+void TFCheckCombox::checkDefaultValue(const QString &value)
+{
+    for (int i = 1; i < m_list->count(); ++i) {
+        QListWidgetItem *item = m_list->item(i);
+        if (valueOf(item->text()) != value)
+            continue;
+        item->setCheckState(Qt::Checked);
+        m_checked.append(indexOf(item));
+        return;
+    }
+}
+
+void TFCheckCombox::checkAll(bool checked)
+{
+    m_checked.clear();
+    for (int i = 0; i < m_list->count(); ++i) {
+        QListWidgetItem *item = m_list->item(i);
+        item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        if (checked && item != m_allItem)
+            m_checked.append(indexOf(item));
+    }
+}
+
+void TFCheckCombox::slotItemPressed(QListWidgetItem *item)
+{
+    const bool checked = item->checkState() != Qt::Checked;
+    item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+    emit signalItemCheckStatusChanged(item, checked);
+}
+
+void TFCheckCombox::slotItemClicked(QListWidgetItem *item)
+{
+    emit signalItemCheckStatusChanged(item, item->checkState() == Qt::Checked);
+}
+
+void TFCheckCombox::slotCheckStatusChanged(QListWidgetItem *item, bool checked)
+{
+    const int index = indexOf(item);
+    if (index == AllIndex) {
+        checkAll(checked);
+    } else {
+        if (!checked)
+            m_checked.removeAll(index);
+        else if (!m_checked.contains(index))
+            m_checked.append(index);
+        m_allItem->setCheckState(m_checked.size() == m_texts.size() ? Qt::Checked : Qt::Unchecked);
+    }
+    rebuildText();
+    if (!m_menu->isVisible())
+        m_button->showMenu();
+}
+
+void TFCheckCombox::rebuildText()
+{
+    if (m_checked.size() == m_texts.size()) {
+        m_button->setText(QStringLiteral("All"));
+        return;
+    }
+    const QString text = checkedTexts().join(QLatin1Char(';'));
+    m_button->setToolTip(text);
+    m_button->setText(m_button->fontMetrics().elidedText(text, Qt::ElideRight, MaximumTextWidth));
+}
+
+QStringList TFCheckCombox::checkedTexts() const
+{
+    QStringList texts;
+    for (int index : m_checked)
+        texts.append(m_texts.value(index));
+    return texts;
+}
+
+QString TFCheckCombox::valueOf(const QString &text) const
+{
+    // The texts shown are the keys of the map: a text finds a result only where it is also somebody's value.
+    return m_values.key(text, QString(QLatin1String("")));
+}
+
+FilterParam::Cntrl TFCheckCombox::getCntrl() const
+{
+    const QStringList texts =
+        checkedTexts().join(QLatin1Char(';')).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    if (texts.isEmpty())
+        return {};
+    const bool numbers = row().ValueType.toLower() == QLatin1String("decimal");
+    QVariantList values;
+    for (const QString &text : texts)
+        values.append(numbers ? QVariant(valueOf(text).toDouble()) : QVariant(valueOf(text)));
+    FilterParam::Cntrl cntrl = described();
+    cntrl.value = values;
+    cntrl.valueType = numbers ? QStringLiteral("intlist") : QStringLiteral("stringList");
+    return cntrl;
+}

@@ -1,0 +1,38 @@
+#include "tfdateedit.h"
+
+#include "tffilterdefaults.h"
+
+#include <QDateEdit>
+#include <QHBoxLayout>
+#include <QLabel>
+
+TFDateEdit::TFDateEdit(const TFTableModelData::FilterData &row, QWidget *parent)
+    : TFBaseFilterWidget(row, parent)
+    , m_edit(makeEditor(this))
+{
+    QHBoxLayout *layout = makeLayout(6);
+    QLabel *label = makeLabel();
+    label->setText(row.Caption);
+    label->setBuddy(m_edit);
+    layout->addWidget(label);
+    layout->addWidget(m_edit);
+    const QDate date = TFFilterDefaults::literalDate(row.DefualtValue);
+    if (date.isValid())
+        m_edit->setDate(date);
+}
+
+QDateEdit *TFDateEdit::makeEditor(QWidget *parent)
+{
+    auto *edit = new QDateEdit(parent);
+    edit->setCalendarPopup(true);
+    edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    return edit;
+}
+
+FilterParam::Cntrl TFDateEdit::getCntrl() const
+{
+    FilterParam::Cntrl cntrl = described();
+    cntrl.value =
+        QDateTime(m_edit->date(), QTime(23, 59, 59)).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return cntrl;
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tfbasefilterwidget.h"
+
+#include <QList>
+#include <QMap>
+
+class QLabel;
+class QMenu;
+class QToolButton;
+
+/// Years to choose from: one, or many with ticks.
+class TFMultiYear : public TFBaseFilterWidget
+{
+    Q_OBJECT
+
+public:
+    enum class Choice { Single, Many };
+
+    TFMultiYear(const TFTableModelData::FilterData &row, Choice choice, QWidget *parent);
+
+    FilterParam::Cntrl getCntrl() const override;
+
+public slots:
+    void slotActionCheckStatusChanged(bool checked);
+    void slotActionClickStatusChanged(bool checked);
+
+private:
+    void fill();
+    bool fillFromNameValues();
+    void addYear(int index, const QString &text);
+    void selectDefault();
+    QStringList chosenTexts() const;
+
+    QToolButton *m_button;
+    QMenu *m_menu;
+    QLabel *m_label;
+    bool m_many;
+    QList<int> m_chosen;
+    QMap<int, QString> m_texts;
+};
