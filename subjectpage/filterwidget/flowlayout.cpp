@@ -84,7 +84,7 @@ int FlowLayout::spacing(int wanted, QStyle::PixelMetric metric, const QLayoutIte
 {
     if (wanted >= 0)
         return wanted;
-    const QWidget *owner = parentWidget();
+    QWidget *owner = parentWidget();
     const int styled = owner ? owner->style()->pixelMetric(metric, nullptr, owner) : -1;
     if (styled >= 0 || !owner)
         return qMax(styled, 0);

@@ -1,0 +1,326 @@
+#include "filterwidget/tfbasefilterwidget.h"
+#include "filterwidget/tfcacheconfig.h"
+#include "filterwidget/tfcheckcombox.h"
+#include "filterwidget/tfcombobox.h"
+#include "filterwidget/tfdatetimeinterval.h"
+#include "filterwidget/tffiltersubwidgetfactory.h"
+#include "filterwidget/tffilterwidget.h"
+#include "records/tfclock.h"
+#include "subjecttest.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QListWidget>
+#include <QToolButton>
+
+using Row = TFTableModelData::FilterData;
+
+namespace {
+Row row(const QString &className, const QString &defaultValue = {}, const QString &valueType = {})
+{
+    Row r;
+    r.ClassName = className;
+    r.FieldName = QStringLiteral("F");
+    r.Caption = QStringLiteral("C");
+    r.Operator = QStringLiteral("=");
+    r.DefualtValue = defaultValue;
+    r.ValueType = valueType;
+    return r;
+}
+
+QString text(const QVariant &value)
+{
+    if (value.userType() != QMetaType::QVariantList && value.userType() != QMetaType::QStringList)
+        return value.isValid() ? value.toString() : QStringLiteral("(invalid)");
+    QStringList parts;
+    for (const QVariant &part : value.toList())
+        parts.append(part.toString());
+    return QLatin1Char('[') + parts.join(QLatin1Char('|')) + QLatin1Char(']');
+}
+
+/// key | op | value type | value, with a star for a report of several.
+QString reported(const TFBaseFilterWidget *control)
+{
+    const FilterParam::Cntrl c = control->getCntrl();
+    if (c.key.isEmpty())
+        return QStringLiteral("-");
+    return QStringLiteral("%1 | %2 | %3 | %4%5")
+        .arg(c.key, c.op, c.valueType, text(c.value), c.multiField ? QStringLiteral(" *") : QString());
+}
+} // namespace
+
+class TestFilterControls : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        beginMessages();
+        TFClock::setNow([] { return QDateTime(QDate(2021, 5, 20), QTime(10, 0)); });
+    }
+    void cleanup()
+    {
+        TFClock::setNow(nullptr);
+        endMessages();
+    }
+
+    void classNameSelectsTheControlInOrder_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("built");
+        const QList<QPair<QString, QString>> cases{{"DecimalTextEditInterval", "TFDecimalTextEditInterval"},
+                                                   {"dateEditFrom", "TFDateEdit"},
+                                                   {"SimpleYearBox", "TFMultiYear"},
+                                                   {"MultYear", "TFMultiYear"},
+                                                   {"CheckComboBox", "TFCheckCombox"},
+                                                   {"UnitFactorCombobox", "TFComboBox"},
+                                                   {"decimaltexteditinterval", "TFLineEdit"},
+                                                   {"keywordsbox", "TFLineEdit"},
+                                                   {"SimpleButtonXyz", "TFPushbutton"},
+                                                   {"DateTimeInterval", "TFDatetimeInterval"},
+                                                   {"ReportDateSimple5", "TFReportDateSimple"},
+                                                   {"YearMonthInterval", "TFYearMonthInterval"},
+                                                   {"YearMonthSimple", "TFYearMonthSimple"},
+                                                   {"F9SecuIdCntrl", "TFFilterLabel"},
+                                                   {"Nobody", ""},
+                                                   {"", ""}};
+        for (const auto &c : cases)
+            QTest::newRow(qPrintable(c.first + '-')) << c.first << c.second;
+    }
+    void classNameSelectsTheControlInOrder()
+    {
+        QFETCH(QString, className);
+        QFETCH(QString, built);
+        TFFilterWidget bar;
+        const TFBaseFilterWidget *control = TFFilterCtlFactory::createWidget(row(className), &bar);
+        QCOMPARE(control ? QString(control->metaObject()->className()) : QString(), built);
+        if (className == "Nobody")
+            QCOMPARE(debugLines().size(), 3);
+    }
+
+    void defaultBecomesTheReportedValue_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("defaultValue");
+        QTest::addColumn<QString>("valueType");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("text") << "TextEdit"
+                              << "ab"
+                              << "string"
+                              << "F | == | string | ab";
+        QTest::newRow("day ends late") << "DateEdit"
+                                       << "=date'2020-03-01'"
+                                       << "datetime"
+                                       << "F | == | datetime | 2020-03-01 23:59:59";
+        QTest::newRow("interval") << "DateTimeInterval"
+                                  << "=date'2020-01-01';$today()"
+                                  << "datetime"
+                                  << "F | >=,<= | datetime | 2020-01-01 00:00:00,2021-05-20 23:59:59 *";
+        QTest::newRow("last thirty days")
+            << "DateTimeInterval"
+            << "$adddays(-30);$today()"
+            << "datetime"
+            << "F | >=,<= | datetime | 2021-04-20 00:00:00,2021-05-20 23:59:59 *";
+        QTest::newRow("start after end") << "DateTimeInterval"
+                                         << "date'2021-06-01';date'2021-05-01'"
+                                         << ""
+                                         << "F | >=,<= |  | 2021-06-01 00:00:00,2021-06-01 23:59:59 *";
+        QTest::newRow("one part is ignored") << "DateTimeInterval"
+                                             << "date'2020-01-01'"
+                                             << ""
+                                             << "F | >=,<= |  | 2021-05-20 00:00:00,2021-05-20 23:59:59 *";
+        QTest::newRow("empty range") << "DecimalTextEditInterval"
+                                     << "0;0"
+                                     << "decimal"
+                                     << "-";
+        QTest::newRow("range") << "DecimalTextEditInterval"
+                               << "=0;5"
+                               << "decimal"
+                               << "F | >=,<= | decimal | 0,5 *";
+        QTest::newRow("hidden numbers") << "F9SecuIdCntrl"
+                                        << "1;2;3"
+                                        << "decimal"
+                                        << "F | == | intlist | [1|2|3]";
+        QTest::newRow("hidden text keeps =") << "VirtualCntrl"
+                                             << "=12"
+                                             << "string"
+                                             << "F | == | string | =12";
+        QTest::newRow("single year") << "SimpleYear"
+                                     << "=2018-05-31"
+                                     << ""
+                                     << "F | == |  | 2018";
+        QTest::newRow("many years") << "MultYear"
+                                    << "2020"
+                                    << ""
+                                    << "F | in | stringList | [2020]";
+        QTest::newRow("month") << "YearMonthSimple"
+                               << "=date'2019-03-31'"
+                               << "string"
+                               << "F | == | string | 201903";
+        QTest::newRow("months") << "YearMonthInterval"
+                                << ""
+                                << "MONTH"
+                                << "MONTH | >=,<= |  | '2021-1','2021-1' *";
+        QTest::newRow("button") << "SimpleButtonGetData"
+                                << ""
+                                << ""
+                                << "-";
+    }
+    void defaultBecomesTheReportedValue()
+    {
+        QFETCH(QString, className);
+        QFETCH(QString, defaultValue);
+        QFETCH(QString, valueType);
+        TFFilterWidget bar;
+        const auto *control = TFFilterCtlFactory::createWidget(row(className, defaultValue, valueType), &bar);
+        QTEST(reported(control), "expected");
+    }
+
+    void inListOfALineKeepsItsNumbersAsText()
+    {
+        TFFilterWidget bar;
+        Row r = row("TextEdit", "1,2,,3", "Decimal");
+        r.Operator = "IN";
+        const auto *control = TFFilterCtlFactory::createWidget(r, &bar);
+        QCOMPARE(reported(control), QString("F | in | intlist | [1|2|3]"));
+        QCOMPARE(control->getCntrl().value.toList().first().userType(), int(QMetaType::QString));
+    }
+
+    void laterStartPullsTheEndAlong()
+    {
+        TFFilterWidget bar;
+        TFDatetimeInterval interval(row("DateTimeInterval", "date'2020-01-01';date'2020-02-01'"), &bar);
+        const auto edits = interval.findChildren<QDateEdit *>();
+        edits.first()->setDate(QDate(2020, 3, 1));
+        QCOMPARE(edits.last()->date(), QDate(2020, 3, 1));
+    }
+
+    void comboReportsTheValueBehindTheName()
+    {
+        Row r = row("ComboBox", "=2");
+        r.NameValues = "甲=1;乙=2;broken";
+        TFFilterWidget bar;
+        TFComboBox box(r, &bar);
+        QCOMPARE(reported(&box), QString("F | == |  | 2"));
+        box.setCurrentText("甲");
+        QCOMPARE(box.getCntrl().value.toString(), QString("1"));
+    }
+
+    void unitListSignalsEachChoiceTwice()
+    {
+        Row r = row("UnitFactorCombobox", "万元");
+        r.UnitCategory = 1;
+        TFFilterWidget bar;
+        TFComboBox box(r, &bar);
+        auto *inner = box.findChild<QComboBox *>();
+        QCOMPARE(inner->currentText(), QString("万元"));
+        QSignalSpy spy(&box, &TFComboBox::signalCurrentIndexChanged);
+        emit inner->textActivated("亿元");
+        QCOMPARE(spy.size(), 2);
+        QCOMPARE(spy.first(), (QVariantList{1008, 1}));
+    }
+
+    void cachedCodesServeAreaAlone()
+    {
+        TFCacheConfig::instance()->fill(
+            QJsonArray{QJsonObject{{"VALUE", "310000"}, {"NAME", "上海"}, {"TYPE", "7"}, {"FILTER1", "1"}},
+                       QJsonObject{{"VALUE", "110000"}, {"NAME", "北京"}, {"TYPE", "7"}, {"FILTER1", "2"}}});
+        Row r = row("ComboBox");
+        r.FieldName = "AREA";
+        r.DataSource = "7";
+        r.Filter = "1";
+        TFFilterWidget bar;
+        TFComboBox box(r, &bar);
+        QCOMPARE(reported(&box), QString("AREA | == |  | 310000"));
+        TFCacheConfig::instance()->fill(QJsonValue());
+    }
+
+    void checkListLooksTextsUpAmongTheValues()
+    {
+        Row r = row("CheckComboBox", "a", "string");
+        r.NameValues = "a=a;b=b;c=c";
+        TFFilterWidget bar;
+        TFCheckCombox box(r, &bar);
+        // The list checks everything first, and the default is ticked on top of it.
+        QCOMPARE(reported(&box), QString("F | == | stringList | [a|b|c|a]"));
+        QCOMPARE(box.objectName(), QString("CustomCheckCombobox"));
+
+        auto *list = box.findChild<QListWidget *>();
+        auto *button = box.findChild<QToolButton *>();
+        box.slotCheckStatusChanged(list->item(0), false);
+        QCOMPARE(reported(&box), QString("-"));
+        list->item(2)->setCheckState(Qt::Checked);
+        box.slotCheckStatusChanged(list->item(2), true);
+        QCOMPARE(reported(&box), QString("F | == | stringList | [b]"));
+        QCOMPARE(button->text(), QString("b"));
+        box.slotCheckStatusChanged(list->item(0), true);
+        QCOMPARE(button->text(), QString("All"));
+    }
+
+    void longCheckListStopsGrowing()
+    {
+        TFFilterWidget bar;
+        TFCheckCombox box(row("CheckComboBox"), &bar);
+        QMap<QString, QString> entries;
+        for (int i = 0; i < 20; ++i)
+            entries.insert(QString::number(i), QString::number(i));
+        box.slotOnItemDataUpdate(entries);
+        QCOMPARE(box.findChild<QListWidget *>()->minimumHeight(), 510);
+    }
+
+    void reportPeriodGoesOutByItsCategory_data()
+    {
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QString>("defaultValue");
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<QString>("period");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("third quarter") << "ReportDateSimple"
+                                       << "=date'2019-09-30'"
+                                       << "1"
+                                       << "三季度"
+                                       << "2019-09-30";
+        QTest::newRow("whole year") << "ReportDateSimple"
+                                    << "=date'2019-12-31'"
+                                    << "1"
+                                    << "年度"
+                                    << "2019-12-31";
+        QTest::newRow("service text") << "ReportDateSimple"
+                                      << "=date'2019-12-31'"
+                                      << "2"
+                                      << "年度"
+                                      << "/Date(1577721600000+0800)";
+        QTest::newRow("no category") << "ReportDateSimple"
+                                     << "=date'2019-12-31'"
+                                     << "0"
+                                     << "年度"
+                                     << "";
+        QTest::newRow("a name that is no period") << "ReportDateSimple"
+                                                  << "=date'2019-12-31'"
+                                                  << "1"
+                                                  << "Annual Report"
+                                                  << "2018-12-31";
+    }
+    void reportPeriodGoesOutByItsCategory()
+    {
+        QFETCH(QString, className);
+        QFETCH(QString, defaultValue);
+        QFETCH(QString, category);
+        QFETCH(QString, period);
+        TFFilterWidget bar;
+        Row r = row(className, defaultValue);
+        r.ParameterCategory = category;
+        const auto *control = TFFilterCtlFactory::createWidget(r, &bar);
+        auto *box = control->findChildren<QComboBox *>().last();
+        box->addItem(period);
+        box->setCurrentText(period);
+        QTEST(control->getCntrl().value.toString(), "expected");
+    }
+};
+
+SUBJECT_TEST_MAIN(TestFilterControls)
+#include "tst_filtercontrols.moc"
