@@ -2,9 +2,9 @@
 
 #include <QHostAddress>
 #include <QJsonDocument>
-#include <QPointer>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QThreadPool>
 #include <QTimer>
 
 TestService::TestService(QObject *parent)
@@ -17,7 +17,16 @@ TestService::TestService(QObject *parent)
         qFatal("the test service can't listen: %s", qPrintable(m_server->errorString()));
 }
 
-TestService::~TestService() = default;
+TestService::~TestService()
+{
+    m_server->close();
+    const QList<QTcpSocket *> sockets = m_server->findChildren<QTcpSocket *>();
+    for (QTcpSocket *socket : sockets) {
+        socket->disconnect(this);
+        socket->abort();
+    }
+    QThreadPool::globalInstance()->waitForDone();
+}
 
 QUrl TestService::url() const
 {
@@ -65,11 +74,22 @@ void TestService::read(QTcpSocket *socket)
     emit requestReceived();
 
     const Answer reply = m_rule(request);
+    if (reply.isHeld) {
+        m_held.append({socket, reply});
+        return;
+    }
     QPointer<QTcpSocket> guard(socket);
     QTimer::singleShot(reply.delay, this, [this, guard, reply] {
         if (guard)
             answer(guard, reply);
     });
+}
+
+void TestService::release(int index)
+{
+    const Held held = m_held.takeAt(index);
+    if (held.socket)
+        answer(held.socket, held.answer);
 }
 
 void TestService::answer(QTcpSocket *socket, const Answer &answer)

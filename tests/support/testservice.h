@@ -6,6 +6,7 @@
 #include <QJsonValue>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QUrl>
 
@@ -35,12 +36,14 @@ public:
         int status = 200;
         int delay = 0;                  ///< milliseconds before it goes out
         bool isClosed = false;          ///< the connection closes instead
+        bool isHeld = false;            ///< goes out when release() says so
         QList<QByteArray> headers = {}; ///< further header lines, such as "Location: /x"
     };
 
     using Rule = std::function<Answer(const Request &)>;
 
-    /// Listens at once. Answers every request with an envelope around null until a rule is set.
+    /// Listens at once. Requests that still wait when the service goes end with an error, and are waited for.
+    /// Answers every request with an envelope around null until a rule is set.
     explicit TestService(QObject *parent = nullptr);
     ~TestService() override;
 
@@ -49,6 +52,10 @@ public:
     const QList<Request> &requests() const { return m_requests; }
     void forgetRequests() { m_requests.clear(); }
 
+    int heldCount() const { return m_held.size(); }
+    /// Sends the held answer number \a index, counted in the order of arrival.
+    void release(int index = 0);
+
     /// A good reply around \a data.
     static QByteArray envelope(const QJsonValue &data);
 
@@ -56,6 +63,12 @@ signals:
     void requestReceived();
 
 private:
+    struct Held
+    {
+        QPointer<QTcpSocket> socket;
+        Answer answer;
+    };
+
     void accept();
     void read(QTcpSocket *socket);
     void answer(QTcpSocket *socket, const Answer &answer);
@@ -63,5 +76,6 @@ private:
     QTcpServer *m_server;
     QHash<QTcpSocket *, QByteArray> m_pending;
     Rule m_rule;
+    QList<Held> m_held;
     QList<Request> m_requests;
 };
