@@ -28,20 +28,19 @@ struct TFCore::Private
     std::vector<StyledView> styledViews;
 
     QString skinFolder() const { return skinRoot.isEmpty() ? QString() : skinRoot + '/' + skinId; }
-    void apply(const StyledView &styled) const;
+    QString styleSheet(const QString &fileName) const;
     void forgetDeadViews();
 };
 
-void TFCore::Private::apply(const StyledView &styled) const
+QString TFCore::Private::styleSheet(const QString &fileName) const
 {
-    QString sheet("");
-    if (!skinRoot.isEmpty()) {
-        const QString path = skinFolder() + '/' + styled.fileName;
-        sheet = TFStyleSheet::read(path, skinFolder());
-        if (sheet.isNull())
-            qCWarning(lcCore).noquote() << "style sheet cannot be read:" << path;
-    }
-    styled.view->applySkinStyle(sheet);
+    if (skinRoot.isEmpty())
+        return QString("");
+    const QString path = skinFolder() + '/' + fileName;
+    const QString sheet = TFStyleSheet::read(path, skinFolder());
+    if (sheet.isNull())
+        qCWarning(lcCore).noquote() << "style sheet cannot be read:" << path;
+    return sheet.isNull() ? QString("") : sheet;
 }
 
 void TFCore::Private::forgetDeadViews()
@@ -74,7 +73,7 @@ void TFCore::addStyle2View(ITFSkin *view, const QString &fileName)
         });
     if (!known)
         d->styledViews.push_back(added);
-    d->apply(added);
+    view->applySkinStyle(d->styleSheet(fileName));
 }
 
 QString TFCore::getCurrentSkinPath(const QString &fileName) const
@@ -147,10 +146,15 @@ bool TFCore::setCurrentSkin(const QString &skinId)
     const std::vector<StyledView> views = d->styledViews;
     for (const StyledView &styled : views) {
         if (styled.widget)
-            d->apply(styled);
+            styled.view->applySkinStyle(d->styleSheet(styled.fileName));
     }
     emit signalSkinChanged(skinId);
     return true;
+}
+
+QString TFCore::styleSheet(const QString &fileName) const
+{
+    return d->styleSheet(fileName);
 }
 
 void TFCore::setMainWindow(QMainWindow *window)

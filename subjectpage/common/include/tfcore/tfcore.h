@@ -51,6 +51,9 @@ public:
     /// Changes the skin, hands all registered views their sheets, then emits signalSkinChanged(). An unknown
     /// name is refused with a warning and false.
     bool setCurrentSkin(const QString &skinId);
+    /// Text of a style sheet of the current skin, with what addStyle2View() tells of missing files and
+    /// url(...).
+    QString styleSheet(const QString &fileName) const;
     void setMainWindow(QMainWindow *window);
 
 signals:

@@ -8,7 +8,8 @@
 /// The host's pool of objects that plug-ins registered; not owned.
 ///
 /// A page type is registered as an object with the properties \c id ("TFApp.SUBJECT") and \c metaId, the
-/// meta-type id of a page class. User-interface thread only.
+/// meta-type id of a page class: a class whose first base is QWidget and that implements ITFAbstractPage. The
+/// middle of \c id is free, its end is the plug-in's category in capitals. User-interface thread only.
 class TFCORE_EXPORT TFObjectPool : public QObject
 {
     Q_OBJECT

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QToolBar>
+#include <QUrl>
+
+class MainActions;
+class QAction;
+class QLineEdit;
+class QToolButton;
+
+/// The line with the address of the current page and the most used commands. Object names: "AddressBar",
+/// "AddressLine", "SkinButton".
+class AddressBar : public QToolBar
+{
+    Q_OBJECT
+
+public:
+    AddressBar(const MainActions &actions, QAction *panelAction, QWidget *parent = nullptr);
+
+    /// Shows the address of the current page; what the user is typing stays.
+    void setUrl(const QUrl &url);
+    void focusAddress();
+    void redraw();
+
+signals:
+    /// The user wants this opened; a text without a scheme is given as it was typed.
+    void entered(const QString &address);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslate();
+
+    QLineEdit *m_line;
+    QToolButton *m_skin;
+    QAction *m_panelAction;
+};

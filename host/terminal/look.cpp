@@ -1,0 +1,128 @@
+#include "look.h"
+
+#include "terminallog.h"
+#include "tfcore/tfcore.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFontDatabase>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMetaEnum>
+#include <QPainter>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+namespace {
+constexpr int FontPixels = 12;
+constexpr int IconPixels = 16;
+const char SkinFile[] = "skin.json";
+const char SheetFile[] = "terminal.css";
+const char PaletteKey[] = "palette";
+const char DisabledPaletteKey[] = "disabledPalette";
+const char InkInIcons[] = "#000000";
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// A TrueType font with Chinese characters: one with CFF outlines takes three times as long to paint.
+QFont terminalFont()
+{
+    static const char *const families[] = {"WenQuanYi Micro Hei", "WenQuanYi Zen Hei", "Microsoft YaHei",
+                                           "PingFang SC", "Droid Sans Fallback"};
+    const QStringList present = QFontDatabase().families();
+    QFont font = QApplication::font();
+    for (const char *family : families) {
+        if (present.contains(family)) {
+            font.setFamily(family);
+            break;
+        }
+    }
+    font.setPixelSize(FontPixels);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+void setColors(QPalette *palette, const QList<QPalette::ColorGroup> &groups, const QJsonObject &colors)
+{
+    const QMetaEnum roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    for (auto it = colors.begin(); it != colors.end(); ++it) {
+        bool known = false;
+        const int role = roles.keyToValue(it.key().toUtf8().constData(), &known);
+        const QColor color(it.value().toString());
+        if (!known || !color.isValid()) {
+            qCWarning(lcTerminal).noquote()
+                << SkinFile << "has no use for" << it.key() << it.value().toString();
+            continue;
+        }
+        for (QPalette::ColorGroup group : groups)
+            palette->setColor(group, QPalette::ColorRole(role), color);
+    }
+}
+
+QPixmap drawn(const QByteArray &svg, const QColor &ink, qreal scale)
+{
+    QByteArray tinted = svg;
+    QSvgRenderer renderer(tinted.replace(InkInIcons, ink.name().toUtf8()));
+    QPixmap pixmap(QSize(IconPixels, IconPixels) * scale);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    painter.end();
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+} // namespace
+
+Look::Look(QObject *parent)
+    : QObject(parent)
+{}
+
+void Look::prepare(QApplication *application)
+{
+    application->setStyle(QStyleFactory::create("Fusion"));
+    application->setFont(terminalFont());
+    connect(TFCore::instance(), &TFCore::signalSkinChanged, this, &Look::apply);
+}
+
+bool Look::setSkin(const QString &skin)
+{
+    TFCore *core = TFCore::instance();
+    const QStringList skins = core->skins();
+    if (skins.isEmpty()) {
+        qCWarning(lcTerminal) << "no skin was found";
+        return false;
+    }
+    if (!skins.contains(skin))
+        qCWarning(lcTerminal).noquote() << "unknown skin:" << skin << "- there are:" << skins.join(", ");
+    return core->setCurrentSkin(skins.contains(skin) ? skin : skins.last());
+}
+
+void Look::apply()
+{
+    const TFCore *core = TFCore::instance();
+    const QJsonObject skin = QJsonDocument::fromJson(contents(core->getCurrentSkinPath(SkinFile))).object();
+    QPalette palette = QStyleFactory::create("Fusion")->standardPalette();
+    setColors(&palette, {QPalette::Active, QPalette::Inactive, QPalette::Disabled},
+              skin.value(PaletteKey).toObject());
+    setColors(&palette, {QPalette::Disabled}, skin.value(DisabledPaletteKey).toObject());
+    QApplication::setPalette(palette);
+    qApp->setStyleSheet(core->styleSheet(SheetFile));
+}
+
+QIcon Look::icon(const QString &name)
+{
+    const QByteArray svg = contents(":/terminal/icons/" + name + ".svg");
+    const QPalette palette = QApplication::palette();
+    QIcon icon;
+    for (qreal scale : {1.0, 2.0, 3.0}) {
+        icon.addPixmap(drawn(svg, palette.color(QPalette::Active, QPalette::ButtonText), scale));
+        icon.addPixmap(drawn(svg, palette.color(QPalette::Disabled, QPalette::ButtonText), scale),
+                       QIcon::Disabled);
+    }
+    return icon;
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "endpoint.h"
+#include "options.h"
+#include "serviceprocess.h"
+#include "settings.h"
+
+#include <QObject>
+
+#include <memory>
+
+class Languages;
+class Look;
+class MainWindow;
+class MessageCollector;
+class PageFactory;
+class PluginManager;
+
+/// The running application: brings up the window, the plug-ins and the data service side by side, and opens
+/// the first pages when all are there.
+class Terminal : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Terminal(const Options &options, QObject *parent = nullptr);
+    ~Terminal() override;
+
+    /// Shows the window and starts everything else behind it.
+    void start();
+
+    MainWindow &window() { return *m_window; }
+
+private:
+    void prepareCore();
+    void makeWindow();
+    void connectWindow();
+    void restoreWindow();
+    void loadPlugins();
+    void useEndpoint(const Endpoint &endpoint);
+    void startService();
+    void useService(const QUrl &address);
+    void serviceFailed(const QString &reason);
+    void openFirstPages();
+    void askEndpoint();
+    void setSkin(const QString &skin);
+    void setLanguage(const QString &code);
+    void fillTopics();
+    void takeScreenshot();
+    void writeScreenshot(bool settled);
+    void shutdown();
+    bool isInteractive() const { return m_options.screenshot.isEmpty(); }
+
+    Options m_options;
+    Settings m_settings;
+    Endpoint m_endpoint;
+    bool m_pluginsLoaded = false;
+    bool m_serviceKnown = false;
+    bool m_pagesOpened = false;
+    // In the order of making; the window and its pages go first, the plug-ins that made them after it.
+    std::unique_ptr<MessageCollector> m_messages;
+    std::unique_ptr<Languages> m_languages;
+    std::unique_ptr<Look> m_look;
+    std::unique_ptr<PluginManager> m_plugins;
+    std::unique_ptr<PageFactory> m_factory;
+    std::unique_ptr<ServiceProcess> m_service;
+    std::unique_ptr<MainWindow> m_window;
+};
