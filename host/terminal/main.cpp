@@ -14,10 +14,24 @@ void prepareToolkit()
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // Whole factors only: one-pixel lines stay sharp.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
     // The web engine refuses to start its sandbox for root.
     if (geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+}
+
+int printInstead(const ParsedOptions &parsed, int argc, char *argv[])
+{
+    constexpr int WrongUsage = 2;
+    if (parsed.outcome == ParsedOptions::WrongUsage) {
+        std::fprintf(stderr, "%s\n", qPrintable(parsed.fault));
+        return WrongUsage;
+    }
+    QCoreApplication application(argc, argv);
+    const bool help = parsed.outcome == ParsedOptions::Help;
+    std::puts(qPrintable(help ? optionsHelp() : QString("subject-terminal " TERMINAL_VERSION)));
+    return 0;
 }
 } // namespace
 
@@ -29,12 +43,10 @@ int main(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     // Before the application object, so that help and wrong usage need no display.
     const ParsedOptions parsed = parseOptions(arguments);
-    if (!parsed.options) {
-        std::fprintf(parsed.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(parsed.text));
-        return parsed.exitCode;
-    }
+    if (parsed.outcome != ParsedOptions::Start)
+        return printInstead(parsed, argc, argv);
     QApplication application(argc, argv);
-    Terminal terminal(*parsed.options);
+    Terminal terminal(parsed.options);
     terminal.start();
     return QApplication::exec();
 }

@@ -1,13 +1,10 @@
 #include "options.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QUrl>
 
 namespace {
-constexpr int WrongUsage = 2;
-
 void addOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
@@ -81,20 +78,28 @@ Options read(const QCommandLineParser &parser)
 ParsedOptions parseOptions(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription("Terminal for pages of financial data.");
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     addOptions(parser);
 
     if (!parser.parse(arguments))
-        return {std::nullopt, WrongUsage, parser.errorText()};
+        return {ParsedOptions::WrongUsage, {}, parser.errorText()};
     if (parser.isSet(help))
-        return {std::nullopt, 0, parser.helpText()};
+        return {ParsedOptions::Help, {}, {}};
     if (parser.isSet(version))
-        return {std::nullopt, 0,
-                QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion()};
+        return {ParsedOptions::Version, {}, {}};
     const QString fault = faultOf(parser);
     if (!fault.isEmpty())
-        return {std::nullopt, WrongUsage, fault};
-    return {read(parser), 0, {}};
+        return {ParsedOptions::WrongUsage, {}, fault};
+    return {ParsedOptions::Start, read(parser), {}};
+}
+
+QString optionsHelp()
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Terminal for pages of financial data.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    addOptions(parser);
+    return parser.helpText();
 }

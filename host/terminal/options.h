@@ -25,14 +25,18 @@ struct Options
     QSize size;
 };
 
-/// Outcome of reading the command line: options, or an exit code with the text to print.
+/// Outcome of reading the command line: options, or what to print instead of starting.
 struct ParsedOptions
 {
-    std::optional<Options> options;
-    int exitCode = 0;
-    QString text;
+    enum Outcome { Start, Help, Version, WrongUsage };
+
+    Outcome outcome = Start;
+    Options options;
+    QString fault; ///< names the option and what is wrong with it
 };
 
-/// Reads \a arguments, the program's name included. \c --help and \c --version give exit code 0 and their
-/// text, wrong usage gives 2 and a text that names the option.
+/// Reads \a arguments, the program's name included. Needs no application object.
 ParsedOptions parseOptions(const QStringList &arguments);
+
+/// Text of \c --help. Needs an application object.
+QString optionsHelp();
