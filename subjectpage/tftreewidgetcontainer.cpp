@@ -98,7 +98,10 @@ void TFTreeWidgetContainer::slotMainTreeItemClicked(QStandardItem *item)
                     << " cap:" << text << url;
     if (!url.isEmpty()) {
         qCDebug(lcPage) << "in here--------->1";
-    } else if (viewId == 0 || viewId == m_lastViewId) {
+    } else if (viewId == 0) {
+        return;
+    } else if (viewId == m_lastViewId) {
+        m_mainTree->setOpenItem(item); // the tree may be a new one
         return;
     } else {
         qCDebug(lcPage) << "in here--------->2";

@@ -1,0 +1,57 @@
+#include "subjecttest.h"
+
+#include <QJsonArray>
+#include <QPluginLoader>
+#include <QUrlQuery>
+#include <QWidget>
+
+#include "tfcore/iplugin.h"
+#include "tfcore/tfobjectpool.h"
+
+class TestPagePlugin : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void metadataNamesThePlugin();
+    void pageIsMadeFromItsRegistration();
+};
+
+void TestPagePlugin::metadataNamesThePlugin()
+{
+    const QJsonObject metaData = QPluginLoader(PAGE_PLUGIN).metaData();
+    const QJsonObject own = metaData["MetaData"].toObject();
+    const QUrl url(own["Url"].toString());
+
+    QCOMPARE(metaData["IID"].toString(), QString("TFAppPlugin"));
+    QCOMPARE(metaData["className"].toString(), QString("TFSubjectPagePlugin"));
+    QCOMPARE(own.keys(), QStringList({"Arguments", "Category", "CompatVersion", "Dependencies", "Description",
+                                      "Name", "Required", "Url", "Version"}));
+    QCOMPARE(own["Description"], own["Url"]);
+    QVERIFY(url.scheme() == "view" && url.host().contains("subjectpage"));
+    QCOMPARE(QUrlQuery(url).queryItemValue("title"), QString("股票专题"));
+}
+
+void TestPagePlugin::pageIsMadeFromItsRegistration()
+{
+    QPluginLoader loader(PAGE_PLUGIN);
+    auto *plugin = qobject_cast<IPlugin *>(loader.instance());
+    QVERIFY2(plugin, qPrintable(loader.errorString()));
+
+    QVERIFY(plugin->initialize({}, nullptr));
+    plugin->extensionsInitialized();
+    const QObject *registration = TFObjectPool::instance()->find("TFApp.SUBJECT");
+    QVERIFY(registration);
+    QCOMPARE(registration->objectName(), QString("SubjectPage"));
+    const int type = registration->property("metaId").toInt();
+    QCOMPARE(QMetaType::typeName(type), "TFSubjectPage");
+    std::unique_ptr<QWidget> page(static_cast<QWidget *>(QMetaType::create(type)));
+    QCOMPARE(page->metaObject()->className(), "TFSubjectPage");
+    page.reset();
+
+    delete plugin;
+    QVERIFY(!TFObjectPool::instance()->find("TFApp.SUBJECT"));
+}
+
+SUBJECT_TEST_MAIN(TestPagePlugin)
+#include "tst_pageplugin.moc"
