@@ -1,4 +1,4 @@
-#include "tfskinpalette.h"
+#include "tfcore/tfskinpalette.h"
 
 #include "tfcore/tfcore.h"
 #include "tfcorelog.h"

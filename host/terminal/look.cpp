@@ -2,13 +2,11 @@
 
 #include "terminallog.h"
 #include "tfcore/tfcore.h"
+#include "tfcore/tfskinpalette.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMetaEnum>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
@@ -17,10 +15,7 @@
 namespace {
 constexpr int FontPixels = 12;
 constexpr int IconPixels = 16;
-const char SkinFile[] = "skin.json";
 const char SheetFile[] = "terminal.css";
-const char PaletteKey[] = "palette";
-const char DisabledPaletteKey[] = "disabledPalette";
 const char InkInIcons[] = "#000000";
 
 QByteArray contents(const QString &path)
@@ -45,23 +40,6 @@ QFont terminalFont()
     font.setPixelSize(FontPixels);
     font.setStyleHint(QFont::SansSerif);
     return font;
-}
-
-void setColors(QPalette *palette, const QList<QPalette::ColorGroup> &groups, const QJsonObject &colors)
-{
-    const QMetaEnum roles = QMetaEnum::fromType<QPalette::ColorRole>();
-    for (auto it = colors.begin(); it != colors.end(); ++it) {
-        bool known = false;
-        const int role = roles.keyToValue(it.key().toUtf8().constData(), &known);
-        const QColor color(it.value().toString());
-        if (!known || !color.isValid()) {
-            qCWarning(lcTerminal).noquote()
-                << SkinFile << "has no use for" << it.key() << it.value().toString();
-            continue;
-        }
-        for (QPalette::ColorGroup group : groups)
-            palette->setColor(group, QPalette::ColorRole(role), color);
-    }
 }
 
 QPixmap drawn(const QByteArray &svg, const QColor &ink, qreal scale)
@@ -105,12 +83,7 @@ bool Look::setSkin(const QString &skin)
 void Look::apply()
 {
     const TFCore *core = TFCore::instance();
-    const QJsonObject skin = QJsonDocument::fromJson(contents(core->getCurrentSkinPath(SkinFile))).object();
-    QPalette palette = QStyleFactory::create("Fusion")->standardPalette();
-    setColors(&palette, {QPalette::Active, QPalette::Inactive, QPalette::Disabled},
-              skin.value(PaletteKey).toObject());
-    setColors(&palette, {QPalette::Disabled}, skin.value(DisabledPaletteKey).toObject());
-    QApplication::setPalette(palette);
+    QApplication::setPalette(TFSkinPalette::current(QStyleFactory::create("Fusion")->standardPalette()));
     qApp->setStyleSheet(core->styleSheet(SheetFile));
 }
 

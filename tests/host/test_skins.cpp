@@ -2,8 +2,7 @@
 
 #include "tfcore/tfcore.h"
 #include "tfcore/tfglobalcss.h"
-
-#include "../../host/core/tfskinpalette.h"
+#include "tfcore/tfskinpalette.h"
 
 #include <QDir>
 #include <QDirIterator>

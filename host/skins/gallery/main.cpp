@@ -1,8 +1,8 @@
 #include "gallery.h"
 #include "skinnedwidget.h"
 
-#include "../../core/tfskinpalette.h"
 #include "tfcore/tfcore.h"
+#include "tfcore/tfskinpalette.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tfcore/tfcoreglobal.h"
+#include "tfcoreglobal.h"
 
 #include <QPalette>
 
