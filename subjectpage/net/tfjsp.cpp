@@ -28,6 +28,21 @@ bool readEnvelope(const QJsonDocument &document, const QJsonParseError &error, N
     return true;
 }
 
+/// False where the parser might take the bytes otherwise than their text: a zero byte ends a text, and a
+/// backslash before a byte outside of ASCII hides that this is no UTF-8.
+bool readsLikeItsText(const QByteArray &json)
+{
+    if (json.contains('\0'))
+        return false;
+    int at = json.indexOf('\\');
+    while (at >= 0 && at + 1 < json.size()) {
+        if (uchar(json.at(at + 1)) >= 0x80)
+            return false;
+        at = json.indexOf('\\', at + 2);
+    }
+    return true;
+}
+
 template <typename Text> bool readNavTree(const Text &json, QJsonArray &out)
 {
     NtResponse response;
@@ -51,13 +66,13 @@ bool TFJSP::parseResponse(const QString &json, NtResponse &out)
 
 bool TFJSP::parseResponse(const QByteArray &json, NtResponse &out)
 {
-    // The decoder ends a text at a zero byte and replaces what is no UTF-8; such replies take the long way.
-    QJsonParseError error;
-    const bool clean = !json.contains('\0');
-    const QJsonDocument document = clean ? QJsonDocument::fromJson(json, &error) : QJsonDocument();
-    if (!clean || error.error != QJsonParseError::NoError)
-        return parseResponse(QString::fromUtf8(json), out);
-    return readEnvelope(document, error, out);
+    if (readsLikeItsText(json)) {
+        QJsonParseError error;
+        const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+        if (error.error == QJsonParseError::NoError)
+            return readEnvelope(document, error, out);
+    }
+    return parseResponse(QString::fromUtf8(json), out);
 }
 
 bool TFJSP::hasAllKeys(const QStringList &keys, const QJsonObject &object)

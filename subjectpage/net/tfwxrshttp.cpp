@@ -41,12 +41,18 @@ QNetworkRequest makeRequest(const QUrl &url, const TFWXRSHttp::Headers &headers)
     return request;
 }
 
+/// A redirect that was not followed is a reply like another one.
+bool failed(const QNetworkReply *reply)
+{
+    return reply->error() != QNetworkReply::NoError && reply->error() != QNetworkReply::InsecureRedirectError;
+}
+
 TFWXRSHttp::HttpResult resultOf(QNetworkReply *reply)
 {
-    if (reply->error() != QNetworkReply::NoError) {
-        TFWXRSHttp::HttpResult failed{false, reply->errorString().toUtf8(), QVariant()};
-        qCDebug(lcNet) << "download error:" << failed.data;
-        return failed;
+    if (failed(reply)) {
+        const TFWXRSHttp::HttpResult result{false, reply->errorString().toUtf8(), QVariant()};
+        qCDebug(lcNet) << "download error:" << result.data;
+        return result;
     }
     return {true, reply->readAll(), reply->header(QNetworkRequest::CookieHeader)};
 }
