@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QImageReader>
 #include <QPainter>
 #include <QToolTip>
 
@@ -25,10 +26,12 @@ TFRowDelegate::TFRowDelegate(bool isBlock, QObject *parent)
 
 void TFRowDelegate::loadMarkers()
 {
-    m_marker =
-        QPixmap(TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal_2.png")));
+    const QString path =
+        TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal_2.png"));
+    m_marker = QIcon(path);
+    m_markerSize = QImageReader(path).size();
     m_activeMarker =
-        QPixmap(TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal.png")));
+        QIcon(TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal.png")));
 }
 
 bool TFRowDelegate::isOpen(const QModelIndex &index) const
@@ -56,11 +59,10 @@ void TFRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 void TFRowDelegate::paintMarker(QPainter *painter, const QStyleOptionViewItem &option) const
 {
     const bool isActive = option.state & (QStyle::State_Selected | QStyle::State_MouseOver);
-    const QPixmap &marker = isActive ? m_activeMarker : m_marker;
-    const qreal height = marker.height() / marker.devicePixelRatio();
-    painter->drawPixmap(
-        QPointF(option.rect.left() - markerIndent, option.rect.top() + (option.rect.height() - height) / 2),
-        marker);
+    QRect place(QPoint(option.rect.left() - markerIndent, 0), m_markerSize);
+    place.moveTop(option.rect.top() + (option.rect.height() - place.height()) / 2);
+    // An icon picks the picture for the scale factor of the screen.
+    (isActive ? m_activeMarker : m_marker).paint(painter, place);
 }
 
 void TFRowDelegate::paintAccentBar(QPainter *painter, const QStyleOptionViewItem &option) const

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QColor>
-#include <QPixmap>
+#include <QIcon>
 #include <QStyledItemDelegate>
 
 class QStandardItem;
@@ -40,6 +40,7 @@ private:
     bool m_isBlock;
     const QStandardItem *m_openItem = nullptr;
     QColor m_accentColor;
-    QPixmap m_marker;
-    QPixmap m_activeMarker;
+    QIcon m_marker;
+    QIcon m_activeMarker;
+    QSize m_markerSize;
 };

@@ -23,6 +23,8 @@ namespace {
 constexpr int stockTopic = 2;
 constexpr int stockSecurityType = 10;
 
+constexpr int leastTreeWidth = 160;
+
 /// Places in the stack on the right.
 enum RightPage { DataPage = 0, WebPage = 1 };
 } // namespace
@@ -40,6 +42,7 @@ void TFSubjectMainFrame::InterfaceParts::build(QFrame *frame)
     splitter->setObjectName(QStringLiteral("splitter"));
     leftContainer = new TFTreeWidgetContainer(splitter);
     leftContainer->setObjectName(QStringLiteral("leftContainer"));
+    leftContainer->setMinimumWidth(leastTreeWidth);
     splitter->addWidget(leftContainer);
     rightContainer = new QStackedWidget(splitter);
     rightContainer->setObjectName(QStringLiteral("rightContainer"));

@@ -1,5 +1,6 @@
 #include "tfsubjecttreewidget.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QShortcut>
@@ -71,6 +72,7 @@ void TFSubjectTreeWidget::buildView()
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setAnimated(true);
     m_view->setHeaderHidden(true);
+    m_view->header()->setMinimumSectionSize(indentation); // else a narrow tree scrolls sideways
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_view->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_view->setIndentation(indentation);
