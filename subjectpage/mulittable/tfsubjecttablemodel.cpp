@@ -222,7 +222,7 @@ void TFSubjectTableModel::setHeader(TFTreeStruct *tree)
         }
     }
     makeStyles(fieldNames);
-    const int columns = qMax(columnsBefore, m_captions.size());
+    const int columns = m_captions.isEmpty() ? columnsBefore : m_captions.size();
     if (columns > 0)
         emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
 }

@@ -1,0 +1,368 @@
+#include "subjecttest.h"
+#include "testhost.h"
+
+#include "mulittable/tfheaderdatastruct.h"
+#include "mulittable/tfsubjecttablemodel.h"
+#include "mulittable/tfunits.h"
+#include "tfcore/tfcore.h"
+
+#include <QAbstractItemModelTester>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+
+#include <memory>
+
+using Cell = TFTableModelData::tagCellValue;
+
+namespace {
+/// The model with the flags that the model tester wants of an index that is none; the table's are fixed.
+class TestableModel : public TFSubjectTableModel
+{
+public:
+    Qt::ItemFlags flags(const QModelIndex &index) const override
+    {
+        return index.isValid() ? TFSubjectTableModel::flags(index) : Qt::ItemFlags();
+    }
+};
+} // namespace
+
+/// How a cell of the table looks: text, alignment, colour, order.
+class TableModelTest : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void valuesShowByTypeAndFormat_data();
+    void valuesShowByTypeAndFormat();
+    void unitColumnsFollowTheChosenUnit_data();
+    void unitColumnsFollowTheChosenUnit();
+    void alignmentIsThatOfTheCellOrItsType_data();
+    void alignmentIsThatOfTheCellOrItsType();
+    void expressionColoursTheText_data();
+    void expressionColoursTheText();
+    void lastCellIsHiddenFromExpressions();
+    void skinChangeReachesExpressions();
+    void endlessExpressionIsInterruptedOnce();
+    void rolesTellTheCell();
+    void captionsFollowTheHeaderAndClearEmptiesTheRows();
+    void selectionIsAllRowsInTheirColumns();
+
+private:
+    struct Column
+    {
+        QString field;
+        QString type = "Decimal";
+        QString format = QString();
+        QString style = QString();
+        bool isUnit = false;
+    };
+
+    void setColumns(const QList<Column> &columns);
+    RowData row(const QVariantList &values, int extra = 0) const;
+    QString colour(int row, int column) const;
+    QVariant at(int row, int column, int role = Qt::DisplayRole) const
+    {
+        return m_model->index(row, column).data(role);
+    }
+
+    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<TFTreeStruct> m_tree;
+    std::unique_ptr<TFSubjectTableModel> m_model;
+    QList<Column> m_columns;
+};
+
+void TableModelTest::init()
+{
+    beginMessages();
+    m_host = std::make_unique<TestHost>();
+    m_tree = std::make_unique<TFTreeStruct>(QString());
+    m_model = std::make_unique<TFSubjectTableModel>();
+}
+
+void TableModelTest::cleanup()
+{
+    m_model.reset();
+    m_tree.reset();
+    m_host.reset();
+    endMessages();
+}
+
+void TableModelTest::setColumns(const QList<Column> &columns)
+{
+    m_columns = columns;
+    m_tree->clearChildren();
+    for (const Column &column : columns) {
+        HeaderFieldInfo info;
+        info.fieldName = info.caption = column.field;
+        info.valueType = column.type;
+        info.formatString = column.format;
+        info.cellStyleExpression = column.style;
+        info.visible = true;
+        if (column.isUnit) {
+            info.columnType = "BandedGridColumnWithUnit";
+            info.unitCategory = 1;
+            info.prevUnitFactor = 1;
+            info.showUnitFactor = 10000;
+            info.showUnit = "万元";
+            info.captionShowType = 1;
+        }
+        m_tree->addChild(new TFTreeStruct(info));
+    }
+    m_model->setHeader(m_tree.get());
+}
+
+RowData TableModelTest::row(const QVariantList &values, int extra) const
+{
+    RowData cells;
+    for (int i = 0; i < values.size() + extra; ++i) {
+        Cell cell;
+        cell.fieldName = m_columns.value(i).field;
+        cell.valueType = i < m_columns.size() ? m_columns.at(i).type : QString();
+        cell.value = values.value(i);
+        cells.append(cell);
+    }
+    return cells;
+}
+
+QString TableModelTest::colour(int row, int column) const
+{
+    const QVariant colour = at(row, column, Qt::ForegroundRole);
+    return colour.isValid() ? colour.value<QColor>().name() : QString();
+}
+
+void TableModelTest::valuesShowByTypeAndFormat_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QVariant>("shown");
+    const auto add = [](const char *name, const char *type, const char *format, const QVariant &value,
+                        const QVariant &shown) {
+        QTest::newRow(name) << QString(type) << QString(format) << value << shown;
+    };
+    add("groups and two decimals", "Decimal", "", 1234567.891, "1,234,567.89");
+    add("precision in capitals", "decimal", "N4", 1.5, "1.5000");
+    add("no decimals", "Decimal", "n0", 2.6, "3");
+    add("number above twenty", "Decimal", "n21", 1, "1.00");
+    add("number as text", "Decimal", "", "12.5", "12.50");
+    add("no number stays", "Decimal", "", "--", "--");
+    add("invalid shows nothing", "Decimal", "", QVariant(), QVariant());
+    add("null shows nothing", "String", "", QVariant::fromValue(nullptr), QVariant());
+    add("text is trimmed", "String", "", "  a b ", "a b");
+    add("any string type", "xStringy", "", 5, "5");
+    add("day", "DateTime", "", 1577808000000.0, "2020-01-01");
+    add("day of the epoch", "datetime", "yyyy-MM-dd hh:mm", 0, "1970-01-01 08:00");
+    add("other types stay", "Int32", "n2", 7, 7);
+}
+
+void TableModelTest::valuesShowByTypeAndFormat()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, format);
+    QFETCH(QVariant, value);
+    QFETCH(QVariant, shown);
+
+    setColumns({{"F", type, format}});
+    m_model->setRows(QList<RowData>{row({value})});
+
+    QCOMPARE(at(0, 0), shown);
+    const QString tip = shown.isValid() ? "<p style='color:#0060E3'>" + shown.toString() + "</p>" : QString();
+    QCOMPARE(at(0, 0, Qt::ToolTipRole).toString(), tip);
+}
+
+void TableModelTest::unitColumnsFollowTheChosenUnit_data()
+{
+    QTest::addColumn<int>("unitCode");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("as configured") << 0 << "万元 123.46";
+    QTest::newRow("another unit of the category") << 1008 << "亿元 0.01";
+    QTest::newRow("factor 1") << 1000 << "元 1,234,560.00";
+    QTest::newRow("other category leaves the number raw") << 2008 << "万元 1,234,560.00";
+    QTest::newRow("exponent below zero is factor 0") << 7005 << "万元 1,234,560.00";
+}
+
+void TableModelTest::unitColumnsFollowTheChosenUnit()
+{
+    QFETCH(int, unitCode);
+    QFETCH(QString, shown);
+    setColumns({{"F", "Decimal", "", "", true}});
+    m_model->setRows(QList<RowData>{row({1234560})});
+
+    if (unitCode) {
+        m_tree->updateUnit(TFUnits::unitNameOfCode(unitCode), unitCode / 1000);
+        m_model->setHeader(m_tree.get());
+        m_model->setUnit(TFUnits::unitExponentOfCode(unitCode), unitCode / 1000);
+    }
+
+    const QString unit = m_model->headerData(0, Qt::Horizontal).toString().section('(', 1).chopped(1);
+    QCOMPARE(unit + ' ' + at(0, 0).toString(), shown);
+}
+
+void TableModelTest::alignmentIsThatOfTheCellOrItsType_data()
+{
+    QTest::addColumn<int>("alignment");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("number") << 0 << "UInt64" << 130;
+    QTest::newRow("compared with case") << 0 << "decimal" << 132;
+    QTest::newRow("text") << 0 << "String" << 129;
+    QTest::newRow("date") << 0 << "DateTime" << 132;
+    QTest::newRow("left") << 1 << "Decimal" << 129;
+    QTest::newRow("centre") << 2 << "Decimal" << 132;
+    QTest::newRow("right") << 3 << "String" << 130;
+}
+
+void TableModelTest::alignmentIsThatOfTheCellOrItsType()
+{
+    QFETCH(int, alignment);
+    QFETCH(QString, type);
+    setColumns({{"F", type}});
+    RowData cells = row({1});
+    cells[0].textAlignment = alignment;
+    m_model->setRows(QList<RowData>{cells});
+
+    QTEST(at(0, 0, Qt::TextAlignmentRole).toInt(), "expected");
+}
+
+void TableModelTest::expressionColoursTheText_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("colour");
+    QTest::newRow("comparison") << "$A > 0 ? 'red' : 'green'"
+                                << "#ff0000";
+    QTest::newRow("cells are texts") << "$A + 1 == '51' ? '#123456' : ''"
+                                     << "#123456";
+    QTest::newRow("function") << "function() { if ($B == 'x') return 'blue'; }"
+                              << "#0000ff";
+    QTest::newRow("name put together at run time") << "this['$' + 'B'] == 'x' ? 'red' : ''"
+                                                   << "#ff0000";
+    QTest::newRow("skin") << "$skin == 'white' ? 'black' : 'white'"
+                          << "#000000";
+    QTest::newRow("default colour") << "'$use_default_color'"
+                                    << "";
+    QTest::newRow("no text") << "17"
+                             << "";
+    QTest::newRow("nothing") << "undefined"
+                             << "";
+    QTest::newRow("unknown name") << "$GONE"
+                                  << "";
+    QTest::newRow("syntax") << "(("
+                            << "";
+    QTest::newRow("error thrown") << "(function() { throw new Error('x') })()"
+                                  << "";
+}
+
+void TableModelTest::expressionColoursTheText()
+{
+    QFETCH(QString, expression);
+    QFETCH(QString, colour);
+    setColumns({{"A", "Decimal", "", expression}, {"B", "String"}, {"C"}});
+    m_model->setRows(QList<RowData>{row({5, "x", 1})});
+
+    QCOMPARE(this->colour(0, 0), colour);
+    QVERIFY(this->colour(0, 1).isEmpty());
+}
+
+void TableModelTest::lastCellIsHiddenFromExpressions()
+{
+    setColumns({{"P", "Decimal", "", "$P > 1 ? 'red' : 'blue'"},
+                {"HIDDEN", "Decimal", "", "$HIDDEN ? 'red' : 'blue'"}});
+
+    m_model->setRows(QList<RowData>{row({2, 3}), row({2, 3}, 1), row({0, 3}, 2), {}});
+
+    QStringList colours;
+    for (int i = 0; i < 3; ++i)
+        colours.append(colour(i, 0) + ' ' + colour(i, 1));
+    QCOMPARE(colours.join(", "), QString("#ff0000 , #ff0000 #ff0000, #0000ff #ff0000"));
+}
+
+void TableModelTest::skinChangeReachesExpressions()
+{
+    setColumns({{"A", "Decimal", "", "$skin == 'black' ? 'white' : 'black'"}, {"B"}});
+    m_model->setRows(QList<RowData>{row({1, 1})});
+    QCOMPARE(colour(0, 0), QString("#000000"));
+
+    TFCore::instance()->setCurrentSkin("black");
+
+    QCOMPARE(colour(0, 0), QString("#ffffff"));
+}
+
+void TableModelTest::endlessExpressionIsInterruptedOnce()
+{
+    setColumns({{"A", "Decimal", "", "(function() { while (true) ; })()"}, {"B"}});
+    QList<RowData> rows;
+    for (int i = 0; i < 50; ++i)
+        rows.append(row({i, 1}));
+    m_model->setRows(rows);
+    expectWarning("style expression does not end, ignored from now on:");
+    QElapsedTimer clock;
+    clock.start();
+
+    for (int i = 0; i < rows.size(); ++i)
+        QVERIFY(colour(i, 0).isEmpty());
+
+    QVERIFY(clock.elapsed() < 5000);
+}
+
+void TableModelTest::rolesTellTheCell()
+{
+    setColumns({{"A"}, {"NAME", "String"}});
+    RowData cells = row({"12", "十二个字的名字比十个字长"});
+    cells[0].url = "view://x";
+    cells[0].secuId = 77;
+    m_model->setRows(QList<RowData>{cells});
+
+    QCOMPARE(int(TFSubjectTableModel::FieldNameRole), 266);
+    QCOMPARE(int(TFSubjectTableModel::SortValueRole), 274);
+    QCOMPARE(at(0, 0, 266), QVariant("A"));
+    QCOMPARE(at(0, 0, 267).value<RowData>().value(1).value, QVariant("十二个字的名字比十个字长"));
+    QCOMPARE(at(0, 0, 268), QVariant("view://x"));
+    QCOMPARE(at(0, 0, 269), QVariant("12"));
+    QCOMPARE(at(0, 0, 270), QVariant(77.0));
+    QCOMPARE(at(0, 0, 274), QVariant(12.0));
+    QCOMPARE(at(0, 1, 274), QVariant("十二个字的名字比十个"));
+    QVERIFY(!at(0, 0, 272).isValid());
+    QVERIFY(m_model->data(QModelIndex(), 271).canConvert<QColor>());
+    QCOMPARE(int(m_model->flags(QModelIndex())), 33);
+}
+
+void TableModelTest::captionsFollowTheHeaderAndClearEmptiesTheRows()
+{
+    m_model = std::make_unique<TestableModel>();
+    auto tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
+    QCOMPARE(m_model->headerData(0, Qt::Horizontal), QVariant(0));
+    setColumns({{"A"}, {"B"}});
+    QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+
+    m_model->setRows(QList<RowData>{row({1, 2}), row({3})});
+
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(1).toModelIndex(), m_model->index(1, 1));
+    QCOMPARE(m_model->headerData(1, Qt::Vertical), QVariant("B"));
+    QCOMPARE(m_model->headerData(9, Qt::Horizontal, Qt::TextAlignmentRole), QVariant(132));
+    QVERIFY(!at(1, 1).isValid());
+    QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);
+    m_model->clear();
+    QCOMPARE(reset.size(), 1);
+    QCOMPARE(m_model->rowCount(), 0);
+    tester.reset();
+    m_model->setHeader(nullptr);
+    QCOMPARE(m_model->columnCount(), 0);
+}
+
+void TableModelTest::selectionIsAllRowsInTheirColumns()
+{
+    setColumns({{"A"}, {"B", "String"}});
+    m_model->setRows(QList<RowData>{row({1, "x"}, 2), row({2})});
+
+    QList<QList<QVariant>> list;
+    m_model->getAllSelectedData(&list);
+
+    QCOMPARE(list, (QList<QList<QVariant>>{{"1.00", "x"}, {"2.00"}}));
+}
+
+SUBJECT_TEST_MAIN(TableModelTest)
+#include "test_tablemodel.moc"
