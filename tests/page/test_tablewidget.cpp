@@ -301,23 +301,15 @@ void TableWidgetTest::undefinedConfigurationIsLogged()
 
 void TableWidgetTest::unitChangeRenewsCaptionsAndNumbers()
 {
+    const QJsonObject inYuan{{"UnitCategory", 1},
+                             {"PrevUnitFactor", 10000},
+                             {"ShowUnitFactor", 1},
+                             {"CaptionShowType", 1},
+                             {"ShowUnit", "元"}};
     ViewDocument document;
-    QJsonObject config = document.config();
-    document.fields = {{"CODE"}, {"PRICE", "Decimal", "BandedGridColumnWithUnit"}};
-    config = document.config();
-    QJsonArray objects = config.value("Object_View_Config").toArray();
-    QJsonObject price = objects.at(1).toObject();
-    QJsonObject settings = QJsonDocument::fromJson(price.value("ots_cfg").toString().toUtf8()).object();
-    for (const auto &entry : {qMakePair("UnitCategory", 1), qMakePair("PrevUnitFactor", 10000),
-                              qMakePair("ShowUnitFactor", 1), qMakePair("CaptionShowType", 1)})
-        settings.insert(entry.first, entry.second);
-    settings.insert("ShowUnit", "元");
-    price.insert("ots_cfg", QString::fromUtf8(QJsonDocument(settings).toJson()));
-    objects.replace(1, price);
-    config.insert("Object_View_Config", objects);
-    serve(document, 3);
-    m_table->parseConfig(config, true);
-    QTRY_COMPARE(rowText(2), QString("CODE2 | 20,000.00"));
+    document.fields = {{"CODE"}, {"PRICE", "Decimal", "BandedGridColumnWithUnit", "", true, inYuan}};
+    show(document, 3);
+    QCOMPARE(rowText(2), QString("CODE2 | 20,000.00"));
 
     emit m_table->filterBar()->signalComboBoxChanged(1004, 1);
 

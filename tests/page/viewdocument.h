@@ -17,6 +17,7 @@ struct ViewDocument
         QString columnType = QString();
         QString band = QString(); ///< field of the band over it
         bool isVisible = true;
+        QJsonObject further = {}; ///< keys of the field's settings beside these
     };
     struct Child
     {
@@ -56,15 +57,17 @@ inline QJsonObject ViewDocument::config() const
 {
     QJsonArray bands, objects, children;
     for (const Field &field : fields) {
-        const QJsonObject settings{
-            {"FieldName", field.name},
-            {"Caption", field.name},
-            {"ValueType", field.valueType},
-            {"ColumnType", field.columnType},
-            {"Visible", field.isVisible},
-            {"OwnerBand", field.band},
-            {"Width", 90},
-            {"Url", field.columnType == "HyperLinkEdit" ? "view://subjectpage?code=${CODE}" : ""}};
+        const QString link = field.columnType == "HyperLinkEdit" ? "view://subjectpage?code=${CODE}" : "";
+        QJsonObject settings{{"FieldName", field.name},
+                             {"Caption", field.name},
+                             {"ValueType", field.valueType},
+                             {"ColumnType", field.columnType},
+                             {"Visible", field.isVisible},
+                             {"OwnerBand", field.band},
+                             {"Width", 90},
+                             {"Url", link}};
+        for (auto key = field.further.begin(); key != field.further.end(); ++key)
+            settings.insert(key.key(), key.value());
         bands.append(settings);
         objects.append(QJsonObject{{"obj_prop_name", field.name},
                                    {"vw_sts", field.isVisible ? "1" : "0"},
