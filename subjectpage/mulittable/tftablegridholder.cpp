@@ -32,17 +32,15 @@ void TFTableGridHolder::replaceWidget()
         auto *box = new QVBoxLayout(this);
         box->setContentsMargins(0, 0, 0, 0);
     }
-    bool hadFocus = false;
+    m_hadFocus = false;
     if (QLayoutItem *item = layout()->takeAt(0)) {
         QWidget *old = item->widget();
-        hadFocus = old->isAncestorOf(QApplication::focusWidget());
+        m_hadFocus = old->isAncestorOf(QApplication::focusWidget());
         old->hide();
         old->deleteLater();
         delete item;
     }
     layout()->addWidget(m_grid);
-    if (hadFocus)
-        m_grid->focusRows();
 }
 
 void TFTableGridHolder::showRows(const TFSubject::TFJsonParser &parser)
@@ -57,6 +55,8 @@ void TFTableGridHolder::showRows(const TFSubject::TFJsonParser &parser)
     if (parser.hasVGridColHeaderField())
         m_grid->setVGridHeader(parser.vGridColHeaderField());
     m_grid->setColumnsAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    if (m_hadFocus)
+        m_grid->focusRows();
 }
 
 void TFTableGridHolder::freezeColumns(int count)

@@ -35,4 +35,5 @@ private:
 
     TFSujectTableView *m_grid = nullptr;
     TFSubjectTableModel *m_model = nullptr;
+    bool m_hadFocus = false; ///< the keyboard was in the grid that the present one replaced
 };
