@@ -176,6 +176,10 @@ int runService(const QStringList &arguments)
             return Served;
     }
     setLogLevel(options.log);
+    // Without a zone in the environment the C library looks at the zone's file again for every date it
+    // converts.
+    if (!qEnvironmentVariableIsSet("TZ"))
+        qputenv("TZ", ":/etc/localtime");
     return run(options, endSignals);
 }
 

@@ -83,6 +83,33 @@ std::optional<WireDate> readIso(const QString &text)
     return moment(QDateTime(day, time));
 }
 
+/// The number of \a count digits at \a at; -1 where one is no digit.
+int digitsAt(const QString &text, int at, int count)
+{
+    int number = 0;
+    for (int i = at; i < at + count; ++i) {
+        const int digit = text.at(i).unicode() - '0';
+        if (digit < 0 || digit > 9)
+            return -1;
+        number = number * 10 + digit;
+    }
+    return number;
+}
+
+/// The two forms that a database holds, without a regular expression: this runs for every cell.
+std::optional<QDateTime> readStored(const QString &text)
+{
+    const bool hasTime = text.size() == 19;
+    if ((text.size() != 10 && !hasTime) || text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-'))
+        return std::nullopt;
+    const QDate date(digitsAt(text, 0, 4), digitsAt(text, 5, 2), digitsAt(text, 8, 2));
+    const QTime time =
+        hasTime ? QTime(digitsAt(text, 11, 2), digitsAt(text, 14, 2), digitsAt(text, 17, 2)) : QTime(0, 0);
+    if (!date.isValid() || !time.isValid())
+        return std::nullopt;
+    return QDateTime(date, time);
+}
+
 } // namespace
 
 std::optional<WireDate> readWireDate(const QString &text)
@@ -115,9 +142,9 @@ QDateTime fromMilliseconds(qint64 milliseconds)
 std::optional<qint64> IsoClock::milliseconds(const QString &text)
 {
     if (text != m_text) {
-        const auto date = readIso(text);
+        const auto moment = readStored(text);
         m_text = text;
-        m_answer = date ? std::optional<qint64>(date->first.toMSecsSinceEpoch()) : std::nullopt;
+        m_answer = moment ? std::optional<qint64>(moment->toMSecsSinceEpoch()) : std::nullopt;
     }
     return m_answer;
 }

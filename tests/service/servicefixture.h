@@ -1,0 +1,42 @@
+#pragma once
+
+#include "database.h"
+
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+/// A folder with a small SQLite database and documents of views over it.
+///
+/// The table `price` holds 12 rows: symbols S01 to S12, sectors 1 to 3 in turn, prices 1.5 times the number
+/// but NULL for S05, days 2020-01-01 to 2020-01-12, each third with a time of day, exchanges A and B in turn,
+/// and a name that needs escaping. The table `curve` holds day, tenor and rate for a cross view.
+class ServiceFixture
+{
+public:
+    ServiceFixture();
+
+    QString databaseFile() const { return m_folder.filePath(QStringLiteral("test.sqlite")); }
+    QString viewFolder() const { return m_folder.filePath(QStringLiteral("views")); }
+    QString filePath(const QString &name) const { return m_folder.filePath(name); }
+
+    /// Writes a document below the folder of views.
+    void write(const QString &name, const QJsonObject &document) const;
+    void write(const QString &name, const QByteArray &text) const;
+
+    /// Writes the documents that most tests use: view 10 (table), 11 (its child), 12 (cross), and the other
+    /// files.
+    void writeStandardViews() const;
+
+    /// Runs statements on a connection that may write.
+    void change(const QStringList &statements) const;
+
+    /// View 10: all of `price`, parameter EXCHANGE, key SYMBOL, order PRICE DESC,SYMBOL ASC.
+    static QJsonObject tableDocument();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// A JSON object from text with single quotes in place of double ones; "??" stands for two single quotes, and
+/// a double quote for itself within a text.
+QJsonObject object(const char *text);

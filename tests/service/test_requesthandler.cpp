@@ -1,0 +1,390 @@
+#include "requesthandler.h"
+#include "servicefixture.h"
+#include "subjecttest.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace service;
+
+class TestRequestHandler : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void rowsComeAsTheRequestAsks_data();
+    void rowsComeAsTheRequestAsks();
+    void rowsCarryTypedValues();
+    void partsHoldWhatTheFlagAsksFor();
+    void pagesFitTogether();
+    void totalFollowsAChangeOfTheData();
+    void crossRowsHaveAColumnForEachValue();
+    void severalCrossValuesStandInABand();
+    void namedObjectsAreDelivered_data();
+    void namedObjectsAreDelivered();
+    void faultsAreRefused_data();
+    void faultsAreRefused();
+    void textsFromOutsideStayValues();
+    void databaseFaultIsTheServersFault();
+
+private:
+    QJsonObject ask(const QByteArray &body, int status = 200) const;
+    QJsonObject view(const char *body, int status = 200) const;
+
+    std::unique_ptr<ServiceFixture> m_fixture;
+    std::unique_ptr<Database> m_database;
+    std::unique_ptr<ViewLibrary> m_library;
+};
+
+namespace {
+
+/// Values of one field of all rows, joined by blanks.
+QString values(const QJsonValue &rows, const QString &field)
+{
+    QStringList texts;
+    const QJsonArray array = rows.toArray();
+    for (const QJsonValue &row : array) {
+        const QJsonValue value = row.toObject().value(field);
+        texts << (value.isUndefined() ? QStringLiteral("-") : value.toVariant().toString());
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
+QString summaryText(const QJsonObject &data)
+{
+    QStringList items;
+    const QJsonArray array = data.value(QStringLiteral("Summary")).toArray();
+    for (const QJsonValue &value : array) {
+        const QJsonObject item = value.toObject();
+        if (item.value(QStringLiteral("value")).isDouble())
+            items << QStringLiteral("%1=%2")
+                         .arg(item.value(QStringLiteral("Item")).toString())
+                         .arg(item.value(QStringLiteral("value")).toInt());
+    }
+    return items.join(QLatin1Char(' '));
+}
+
+QStringList gridColumns(const QJsonObject &data)
+{
+    QStringList lines;
+    const QJsonArray summary = data.value(QStringLiteral("Summary")).toArray();
+    const QByteArray text = summary.last().toObject().value(QStringLiteral("value")).toString().toUtf8();
+    const QJsonArray columns = QJsonDocument::fromJson(text).array();
+    for (const QJsonValue &value : columns) {
+        const QJsonObject column = value.toObject();
+        lines << QStringLiteral("%1 '%2' in '%3' %4 %5")
+                     .arg(column.value(QStringLiteral("fieldName")).toString(),
+                          column.value(QStringLiteral("caption")).toString(),
+                          column.value(QStringLiteral("ownerBand")).toString(),
+                          column.value(QStringLiteral("columnType")).toString())
+                     .arg(column.value(QStringLiteral("showStatus")).toInt());
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestRequestHandler::init()
+{
+    beginMessages();
+    m_fixture = std::make_unique<ServiceFixture>();
+    m_fixture->writeStandardViews();
+    m_database = std::make_unique<Database>(m_fixture->databaseFile());
+    QString fault;
+    QVERIFY2(m_database->open(&fault), qPrintable(fault));
+    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+    QCOMPARE(m_library->faults(), QStringList());
+}
+
+void TestRequestHandler::cleanup()
+{
+    m_library.reset();
+    m_database.reset();
+    m_fixture.reset();
+    endMessages();
+}
+
+QJsonObject TestRequestHandler::ask(const QByteArray &body, int status) const
+{
+    const RequestHandler handler(*m_library);
+    const bool isNamed = body.contains("objId") || body.contains("objName");
+    const Reply reply =
+        isNamed ? handler.namedData(body, *m_database) : handler.subjectData(body, *m_database);
+    const QJsonObject envelope = QJsonDocument::fromJson(reply.body).object();
+    if (reply.status != status)
+        qFatal("status %d: %s", reply.status, reply.body.constData());
+    if (envelope.keys() != QStringList{"data", "extend", "msg", "state"})
+        qFatal("no envelope: %s", reply.body.constData());
+    return envelope;
+}
+
+QJsonObject TestRequestHandler::view(const char *body, int status) const
+{
+    return ask(QJsonDocument(object(body)).toJson(), status).value(QStringLiteral("data")).toObject();
+}
+
+void TestRequestHandler::rowsComeAsTheRequestAsks_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("symbols");
+    QTest::addColumn<QString>("summary");
+
+    const auto row = [](const char *name, const char *body, const char *symbols, const char *summary) {
+        QTest::newRow(name) << QByteArray(body) << QString::fromUtf8(symbols) << QString::fromUtf8(summary);
+    };
+    row("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
+    row("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
+    row("page behind the end", "'page': 9, 'size': 5", "", "rcount=12 pindex=9 psize=5");
+    row("all rows", "'filter': '(PRICE > 13.5)'", "S12 S11 S10", "rcount=3 pindex=1 psize=3");
+    row("no rows", "'filter': '(PRICE > 999)'", "", "rcount=0 pindex=1 psize=1");
+    row("order of the request", "'order': {'SYMBOL': 1}, 'page': 1, 'size': 2", "S01 S02",
+        "rcount=12 pindex=1 psize=2");
+    row("terms in the view's sequence", "'order': {'SECTOR': 1, 'PRICE': -1}, 'page': 1, 'size': 2",
+        "S12 S11", "rcount=12 pindex=1 psize=2");
+    row("key breaks ties", "'order': {'SECTOR': -1}, 'page': 1, 'size': 2", "S03 S06",
+        "rcount=12 pindex=1 psize=2");
+    row("named parameter", "'EXCHANGE': 'B', 'page': 1, 'size': 2", "S12 S10", "rcount=6 pindex=1 psize=2");
+    row("number parameter as text", "'TOP': '1', 'page': 1, 'size': 2", "S10 S07",
+        "rcount=4 pindex=1 psize=2");
+    row("filter", "'filter': '(NAME like :N) && (SECTOR == :S)', 'filterParams': {'N': '1', 'S': 2}", "S11",
+        "rcount=1 pindex=1 psize=1");
+    row("blocks", "'filterBlock': [3, '2'], 'page': 1, 'size': 2", "S12 S11", "rcount=8 pindex=1 psize=2");
+    row("blocks beside a filter", "'filterBlock': [3], 'filter': '(PRICE < 6)'", "S03",
+        "rcount=1 pindex=1 psize=1");
+    row("no block checked", "'filterBlock': [], 'page': 1, 'size': 1", "S12", "rcount=12 pindex=1 psize=1");
+    row("other keys of the client", "'auth': {'userId': 'u'}, 'keywords': 'x', 'page': 1, 'size': 1", "S12",
+        "rcount=12 pindex=1 psize=1");
+}
+
+void TestRequestHandler::rowsComeAsTheRequestAsks()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, symbols);
+    QFETCH(QString, summary);
+
+    const QJsonObject data = view("{'obj_vw_id': 10, 'flag': 1, " + body + "}");
+
+    QCOMPARE(values(data.value(QStringLiteral("Data")), QStringLiteral("SYMBOL")), symbols);
+    QCOMPARE(summaryText(data), summary);
+}
+
+void TestRequestHandler::rowsCarryTypedValues()
+{
+    const QJsonObject request = object(
+        "{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL in :S)', 'filterParams': {'S': ['S03', 'S05']}}");
+    const Reply reply = RequestHandler(*m_library).subjectData(QJsonDocument(request).toJson(), *m_database);
+
+    const QByteArray third =
+        QByteArray::number(QDateTime(QDate(2020, 1, 3), QTime(15, 30)).toMSecsSinceEpoch());
+    const QByteArray fifth =
+        QByteArray::number(QDateTime(QDate(2020, 1, 5), QTime(0, 0)).toMSecsSinceEpoch());
+    const QByteArray rows = "{'SYMBOL':'S03','NAME':'名|'03|||t','SECTOR':3,'PRICE':4.5,'DAY':" + third +
+                            "},{'SYMBOL':'S05','NAME':'名|'05|||t','SECTOR':2,'PRICE':null,'DAY':" + fifth +
+                            '}';
+    QByteArray expected =
+        "{'state':1,'msg':'','extend':null,'data':{'Data':[" + rows +
+        "],'Summary':[{'Item':'rcount','value':2},{'Item':'pindex','value':1},{'Item':'psize','value':2}]}}";
+    expected.replace('\'', '"').replace('|', '\\');
+    QCOMPARE(reply.body, expected);
+}
+
+void TestRequestHandler::partsHoldWhatTheFlagAsksFor()
+{
+    QCOMPARE(view("{'obj_vw_id': 10, 'flag': 0}").keys().join(QLatin1Char(' ')),
+             QStringLiteral("Object_View Object_View_Config View_Config"));
+    QCOMPARE(view("{'obj_vw_id': '10', 'flag': '1'}").keys().join(QLatin1Char(' ')),
+             QStringLiteral("Data Summary"));
+    QCOMPARE(view("{'obj_vw_id': 10, 'flag': 2}").keys().join(QLatin1Char(' ')),
+             QStringLiteral("Data Object_View Object_View_Config Summary View_Config"));
+}
+
+void TestRequestHandler::pagesFitTogether()
+{
+    QStringList symbols;
+    for (int page = 1; page <= 5; ++page) {
+        const QByteArray body = "{'obj_vw_id': 11, 'flag': 1, 'size': 3, 'order': {'SECTOR': 1}, 'page': " +
+                                QByteArray::number(page) + '}';
+        symbols << values(view(body).value(QStringLiteral("Data")), QStringLiteral("SYMBOL"));
+    }
+
+    QCOMPARE(symbols.join(QLatin1Char('|')),
+             QStringLiteral("S01 S04 S07|S10 S02 S05|S08 S11 S03|S06 S09 S12|"));
+}
+
+void TestRequestHandler::totalFollowsAChangeOfTheData()
+{
+    const char *body = "{'obj_vw_id': 10, 'flag': 1, 'page': 1, 'size': 2}";
+    QCOMPARE(summaryText(view(body)), QStringLiteral("rcount=12 pindex=1 psize=2"));
+
+    m_fixture->change({QStringLiteral("DELETE FROM price WHERE SYMBOL > 'S09'")});
+
+    QCOMPARE(summaryText(view(body)), QStringLiteral("rcount=9 pindex=1 psize=2"));
+}
+
+void TestRequestHandler::crossRowsHaveAColumnForEachValue()
+{
+    const QJsonObject data = view("{'obj_vw_id': 12, 'flag': 2}");
+
+    QCOMPARE(gridColumns(data),
+             QStringList({QStringLiteral("D '日' in '' BandedGridColumn 1"),
+                          QStringLiteral("BAND_1 '利率' in '' Band 1"),
+                          QStringLiteral("3月__RATE '期限3月' in 'BAND_1' BandedGridColumn 1"),
+                          QStringLiteral("1年__RATE '期限1年' in 'BAND_1' BandedGridColumn 1"),
+                          QStringLiteral("10年__RATE '期限10年' in 'BAND_1' BandedGridColumn 1")}));
+    const QJsonValue rows = data.value(QStringLiteral("Data"));
+    QCOMPARE(values(rows, QStringLiteral("10年__RATE")), QStringLiteral("3.2 3.1"));
+    QCOMPARE(values(rows, QStringLiteral("3月__RATE")), QStringLiteral("- 1.5"));
+    QCOMPARE(summaryText(data), QStringLiteral("rcount=2 pindex=1 psize=2"));
+    QCOMPARE(summaryText(view("{'obj_vw_id': 12, 'flag': 1, 'page': 2, 'size': 1, 'filter': '(N >= 1)'}")),
+             QStringLiteral("rcount=2 pindex=2 psize=1"));
+}
+
+void TestRequestHandler::severalCrossValuesStandInABand()
+{
+    m_fixture->write(QStringLiteral("13.json"), object(R"({
+        'id': 13, 'name': 'x', 'sql': 'SELECT D, TENOR, RATE, VOL FROM curve WHERE N >= 1',
+        'properties': {'IsCrossSortByDesc': true},
+        'bands': [{'FieldName': 'RATE', 'Caption': '率'}, {'FieldName': 'VOL', 'Caption': '量', 'Visible': false},
+                  {'FieldName': 'D', 'Caption': '日'}],
+        'cross': {'rows': ['D'], 'column': 'TENOR', 'values': ['RATE', 'VOL']}})"));
+    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+    QCOMPARE(m_library->faults(), QStringList());
+
+    const QJsonObject data = view("{'obj_vw_id': 13, 'flag': 2}");
+
+    QCOMPARE(gridColumns(data),
+             QStringList({QStringLiteral("BAND_1年 '1年' in '' Band 1"),
+                          QStringLiteral("1年__RATE '率' in 'BAND_1年' BandedGridColumn 1"),
+                          QStringLiteral("1年__VOL '量' in 'BAND_1年' BandedGridColumn 0"),
+                          QStringLiteral("BAND_10年 '10年' in '' Band 1"),
+                          QStringLiteral("10年__RATE '率' in 'BAND_10年' BandedGridColumn 1"),
+                          QStringLiteral("10年__VOL '量' in 'BAND_10年' BandedGridColumn 0"),
+                          QStringLiteral("D '日' in '' BandedGridColumn 1")}));
+    QCOMPARE(values(data.value(QStringLiteral("Data")), QStringLiteral("10年__VOL")), QStringLiteral("5 8"));
+}
+
+void TestRequestHandler::namedObjectsAreDelivered_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("expected");
+
+    const auto row = [](const char *name, const char *body, const char *field, const char *expected) {
+        QTest::newRow(name) << QByteArray(body) << QString::fromUtf8(field) << QString::fromUtf8(expected);
+    };
+    row("codes of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_CODE", "2 3 4 5 2");
+    row("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
+    row("levels of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "LEVEL", "0 1 2 2 -");
+    row("views of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "OBJ_VW_ID", "0 0 10 0 -");
+    row("addresses of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_URL", "   http://x/ -");
+    row("constants behind the tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NAME", "- - - - 亚洲");
+    row("constants", "{'objId': 390}", "VALUE", "1");
+    row("blocks of a type", "{'objId': 43, 'filter': '(SECU_TYP_CODE == :T)', 'filterParams': {'T': 10}}",
+        "SECT_NAME", "甲 乙");
+    row("parents of blocks", "{'objId': 43}", "P_SECT_ID", "0 1 0");
+    row("list from SQL", "{'objName': 'NAMES', 'filter': '', 'filterParams': {}}", "NAME", "A B");
+    row("list from SQL, filtered",
+        "{'objName': 'NAMES', 'filter': '(VALUE != :V)', 'filterParams': {'V': 'A'}}", "NAME", "B");
+    row("written list", "{'objName': 'WRITTEN', 'filter': '(NAME nin :N)', 'filterParams': {'N': '甲'}}",
+        "NAME", "乙");
+}
+
+void TestRequestHandler::namedObjectsAreDelivered()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, field);
+    QFETCH(QString, expected);
+
+    const QJsonObject reply = ask(QJsonDocument(object(body)).toJson());
+
+    QCOMPARE(values(reply.value(QStringLiteral("data")), field), expected);
+}
+
+void TestRequestHandler::faultsAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](QByteArray body, const char *message) {
+        QTest::newRow(message) << body.replace('\'', '"') << QString::fromUtf8(message);
+    };
+    const auto viewRow = [&row](const char *members, const char *message) {
+        row(QByteArray("{'obj_vw_id': 10, 'flag': 1, ") + members + '}', message);
+    };
+    row("", "body: byte ");
+    row("[1]", "body: expected an object");
+    row("{'flag':1,", "body: byte 1");
+    row(QByteArray(100, '['), "body: nested more than 16 deep");
+    row("{}", "obj_vw_id: expected a whole number");
+    row("{'obj_vw_id': 1e300, 'flag': 1}", "obj_vw_id: expected");
+    row("{'obj_vw_id': 99, 'flag': 1}", "obj_vw_id: no view 99");
+    row("{'obj_vw_id': 10, 'flag': 3}", "flag: expected 0, 1 or 2");
+    viewRow("'page': 0, 'size': 5", "page: expected 1 to");
+    viewRow("'page': 1, 'size': 1000000", "size: expected 1 to 100000, found 1000000");
+    viewRow("'filter': ['x']", "filter: expected a text");
+    viewRow("'filterParams': 'x'", "filterParams: expected an object");
+    viewRow("'filter': '(X == 1)'", "filter: position 2: no field \"X\"");
+    viewRow("'order': 'SYMBOL'", "order: expected an object");
+    viewRow("'order': {'SYMBOL': 2}", "order.SYMBOL: expected 1 or -1");
+    viewRow("'order': {'X': 1}", "order: no field \"X\"");
+    viewRow("'filterBlock': 3", "filterBlock: expected an array");
+    viewRow("'filterBlock': [{}]", "filterBlock[0]: expected a code");
+    viewRow("'TOP': 'x'", "TOP: \"x\" is no number");
+    viewRow("'TOP': [1]", "TOP: expected a text or a number");
+    viewRow("'EXCHANGE': '[2020-99-99]'", "EXCHANGE: \"[2020-99-99]\" is no date");
+    row("{'objId': 7}", "objId: no object 7");
+    row("{'objId': 38, 'P_NODE_CODE': 9}", "P_NODE_CODE: no topic 9");
+    row("{'objId': 43, 'filter': '(Y == 1)'}", "filter: position 2: no field \"Y\"");
+    row("{'objName': 'NOPE'}", "objName: no list \"NOPE\"");
+}
+
+void TestRequestHandler::faultsAreRefused()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QString, message);
+
+    const QJsonObject reply = ask(body, 400);
+
+    QCOMPARE(reply.value(QStringLiteral("state")).toInt(), -400);
+    const QString found = reply.value(QStringLiteral("msg")).toString();
+    QVERIFY2(found.startsWith(message), qPrintable(found));
+}
+
+void TestRequestHandler::textsFromOutsideStayValues()
+{
+    const QString attack = QStringLiteral("x' OR 1=1; DROP TABLE price; --");
+    QJsonObject body = object("{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL == :S)'}");
+    body.insert(QStringLiteral("filterParams"), QJsonObject{{QStringLiteral("S"), attack}});
+    const auto rows = [this](const QJsonObject &request) {
+        return summaryText(ask(QJsonDocument(request).toJson()).value(QStringLiteral("data")).toObject());
+    };
+
+    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
+    body = object("{'obj_vw_id': 10, 'flag': 1}");
+    body.insert(QStringLiteral("EXCHANGE"), attack);
+    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
+    body = object("{'obj_vw_id': 10, 'flag': 1}");
+    body.insert(QStringLiteral("filterBlock"), QJsonArray{attack});
+    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
+    body = object("{'obj_vw_id': 10, 'flag': 1}");
+    body.insert(QStringLiteral("order"), QJsonObject{{QStringLiteral("SYMBOL\" DESC; --"), 1}});
+    ask(QJsonDocument(body).toJson(), 400);
+    QCOMPARE(rows(object("{'obj_vw_id': 10, 'flag': 1}")), QStringLiteral("rcount=12 pindex=1 psize=12"));
+}
+
+void TestRequestHandler::databaseFaultIsTheServersFault()
+{
+    m_fixture->change({QStringLiteral("DROP TABLE price")});
+    expectWarning(QStringLiteral("no such table: price"));
+
+    const QJsonObject reply = ask("{\"obj_vw_id\":10,\"flag\":1}", 500);
+
+    QVERIFY(!reply.value(QStringLiteral("msg")).toString().contains(QStringLiteral("price")));
+    QCOMPARE(view("{'obj_vw_id': 12, 'flag': 1}").isEmpty(), false);
+}
+
+SUBJECT_TEST_MAIN(TestRequestHandler)
+
+#include "test_requesthandler.moc"
