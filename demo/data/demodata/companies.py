@@ -11,6 +11,7 @@ from .store import names, with_previous
 COMMON_WORDS = set('INC CORP CORPORATION CO COMPANY COMPANIES COS LTD PLC LLC LP THE DE NEW CL A B HOLDINGS HOLDING GROUP '
                    'INCORPORATED INTL INTERNATIONAL SYS SYSTEMS'.split())
 TRADING_DAYS = 252
+LISTED_FROM, DELISTED_FROM = 1000001, 2000000
 MONTHS = {m: k for k, m in enumerate('Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec'.split(), 1)}
 
 
@@ -37,7 +38,7 @@ def load_stocks(store, packages):
         for symbol, name, value, market in rows:
             amount = re.sub(r'[$, ]', '', value or '')
             found.setdefault(symbol, (name, market, float(amount) if re.search(r'\d', amount) else None))
-    store.insert('stock', [(symbol, k) + rest for k, (symbol, rest) in enumerate(sorted(found.items()), 1000001)])
+    store.insert('stock', [(symbol, k) + rest for k, (symbol, rest) in enumerate(sorted(found.items()), LISTED_FROM)])
 
 
 def series_by_symbol(head, rows):
@@ -84,8 +85,13 @@ def load_companies(store, packages):
             symbol = None
         taken.add(symbol)
         out.append((rank, name, codes.get(country), country, sectors[sector], sales, profit, assets, value, symbol,
-                    stocks[symbol][0] if symbol in stocks else None))
+                    security_id(symbol, rank, stocks)))
     store.insert('company', out)
+
+
+def security_id(symbol, rank, stocks):
+    """The identifier of the listing, or one of its own for a stock that had left the exchanges by then."""
+    return symbol and (stocks[symbol][0] if symbol in stocks else DELISTED_FROM + rank)
 
 
 def country_codes(store):

@@ -49,10 +49,7 @@ def derived(points):
 def load_lists(store):
     store.insert_names('yield_tenor', 'tenors', ('series', 'tenor_zh', 'months'))
     store.insert_names('trade_partner', 'trade_partners', ('country', 'export_series', 'import_series'))
-    titles = {'USD': '美元'}
-    titles.update(store.query('SELECT code, name_zh FROM currency'))
-    store.insert('currency_pair', [(row['series'], row['base'], row['quote'],
-                                    '%s兑%s' % (titles[row['base']], titles[row['quote']])) for row in names('currency_pairs')])
+    store.insert_names('currency_pair', 'currency_pairs', ('series', 'base', 'quote', 'name_zh'))
     parts = names('fuels')
     fuels = [row for row in parts if row['kind'] == 'fuel']
     regions = [row for row in parts if row['kind'] == 'region']
