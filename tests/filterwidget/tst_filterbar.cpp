@@ -1,9 +1,8 @@
 #include "filterwidget/flowlayout.h"
 #include "filterwidget/tfbasefilterwidget.h"
 #include "filterwidget/tffilterwidget.h"
-#include "records/tfancestors.h"
-#include "records/tfclock.h"
 #include "subjecttest.h"
+#include "tfsubjectmainframe.h"
 
 #include <QLineEdit>
 
@@ -17,18 +16,6 @@ class TFFrameSubjectZHP : public QWidget
 
 public:
     QVariantMap arguments;
-};
-
-/// Stands for the page around the bar.
-class TFSubjectMainFrame : public QWidget, public ITFPageContext
-{
-    Q_OBJECT
-    Q_INTERFACES(ITFPageContext)
-
-public:
-    FilterParam::DataSourceFilter blockFilter() const override { return {}; }
-    QMap<QString, QVariant> f9Arguments() const override { return arguments; }
-    QMap<QString, QVariant> arguments;
 };
 
 namespace {
@@ -137,7 +124,7 @@ private slots:
         TFFilterWidget bar(&frame);
         bar.setFilterData({row("F9SecuIdCntrl", "SECU", "1"), row("F9COMIDCntrl", "COM", "2"),
                            row("VirtualCntrl", "OTHER", "3")});
-        frame.arguments = {{"SECU", "600000"}, {"COM", ""}, {"OTHER", "9"}};
+        frame.setF9Arguments({{"SECU", "600000"}, {"COM", ""}, {"OTHER", "9"}});
         QCOMPARE(filters(bar),
                  (QStringList{"SECU >= SECU_0 [600000]", "COM >= COM_0 [2]", "OTHER >= OTHER_0 [3]"}));
     }
