@@ -1,0 +1,29 @@
+#include "testpage.h"
+#include "tfcore/iplugin.h"
+
+#include <QMetaType>
+
+class GoodPlugin : public IPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID TF_APP_PLUGIN_IID FILE "goodplugin.json")
+
+public:
+    bool initialize(const QStringList &arguments, QString *) override
+    {
+        auto *registration = new QObject;
+        registration->setProperty("id", "TFApp.SAMPLE");
+        registration->setProperty("arguments", arguments);
+        registration->setProperty(
+            "metaId",
+            QMetaType::registerType(
+                "TestPage", [](void *page) { static_cast<TestPage *>(page)->~TestPage(); },
+                [](void *where, const void *) -> void * { return new (where) TestPage; }, sizeof(TestPage),
+                QMetaType::NeedsConstruction | QMetaType::NeedsDestruction, &TestPage::staticMetaObject));
+        addAutoReleasedObject(registration);
+        return true;
+    }
+    void extensionsInitialized() override {}
+};
+
+#include "goodplugin.moc"

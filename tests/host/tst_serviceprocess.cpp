@@ -1,0 +1,148 @@
+#include "serviceprocess.h"
+
+#include "subjecttest.h"
+
+#include <QSqlDatabase>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+namespace {
+const char Service[] = PROJECT_BINARY_DIR "/bin/subject-service";
+const char Owner[] = PROJECT_BINARY_DIR "/tests/serviceowner";
+
+bool isAlive(qint64 pid)
+{
+    // A process that has ended and that nobody has collected is as good as gone.
+    QFile status(QString("/proc/%1/stat").arg(pid));
+    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
+}
+
+bool listens(const QUrl &address)
+{
+    QTcpSocket socket;
+    socket.connectToHost(address.host(), quint16(address.port()));
+    return socket.waitForConnected(2000);
+}
+} // namespace
+
+class ServiceProcessTest : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "make");
+        database.setDatabaseName(m_folder.filePath("empty.sqlite"));
+        QVERIFY(database.open());
+        database.exec("create table t (a)");
+        QVERIFY(QDir(m_folder.path()).mkdir("views"));
+    }
+
+    void cleanupTestCase() { QSqlDatabase::removeDatabase("make"); }
+
+    void serviceTellsItsAddressAndEndsWithItsOwner()
+    {
+        auto service = std::make_unique<ServiceProcess>();
+        QSignalSpy ready(service.get(), &ServiceProcess::ready);
+        service->start(command(Service));
+        QTRY_COMPARE_WITH_TIMEOUT(ready.size(), 1, 10000);
+        const QUrl address = ready.first().first().toUrl();
+        const qint64 pid = service->processId();
+        QVERIFY(listens(address));
+
+        service.reset();
+
+        QVERIFY(!isAlive(pid));
+    }
+
+    void serviceEndsWhenItsOwnerIsKilled()
+    {
+        QProcess owner;
+        owner.start(Owner, {Service, m_folder.filePath("empty.sqlite"), m_folder.filePath("views")});
+        QVERIFY2(owner.waitForReadyRead(10000), owner.readAllStandardError());
+        const qint64 pid = owner.readLine().trimmed().toLongLong();
+        QVERIFY(pid > 0 && isAlive(pid));
+
+        ::kill(pid_t(owner.processId()), SIGKILL);
+
+        QVERIFY(owner.waitForFinished());
+        QTRY_VERIFY(!isAlive(pid));
+    }
+
+    void endOfARunningServiceIsTold()
+    {
+        ServiceProcess service;
+        QSignalSpy ready(&service, &ServiceProcess::ready);
+        QSignalSpy failed(&service, &ServiceProcess::failed);
+        service.start(command(Service));
+        QTRY_COMPARE_WITH_TIMEOUT(ready.size(), 1, 10000);
+        expectWarning("the data service ended");
+        ::kill(pid_t(service.processId()), SIGKILL);
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY(!service.isRunning());
+    }
+
+    void serviceThatCannotStartGivesAReason_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("none") << QByteArray() << "the data service is not there: .*/service";
+        QTest::newRow("no program") << QByteArray("\x7f"
+                                                  "ELFnonsense")
+                                    << "cannot be started|ended with status";
+        QTest::newRow("complains") << QByteArray("#!/bin/sh\necho 'disk is full' >&2\nexit 4\n")
+                                   << "ended with status 4: disk is full";
+        QTest::newRow("silent") << QByteArray("#!/bin/sh\nexec sleep 100\n") << "gave no address within";
+        QTest::newRow("chatter") << QByteArray("#!/bin/sh\necho listening on nothing\nexec sleep 100\n")
+                                 << "gave no address within";
+    }
+
+    void serviceThatCannotStartGivesAReason()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(QString, reason);
+        const QString path = m_folder.filePath("service");
+        QFile file(path);
+        file.remove();
+        if (!program.isEmpty()) {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(program);
+            file.close();
+            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        }
+        ServiceProcess service;
+        service.setStartTimeout(300);
+        QSignalSpy failed(&service, &ServiceProcess::failed);
+        expectWarning(reason);
+
+        service.start(command(path));
+
+        QTRY_COMPARE(failed.size(), 1);
+        QVERIFY2(QRegularExpression(reason).match(failed.first().first().toString()).hasMatch(),
+                 qPrintable(failed.first().first().toString()));
+        QVERIFY(!service.isStarting());
+    }
+
+    void missingDatabaseIsNamed()
+    {
+        ServiceProcess service;
+        QSignalSpy failed(&service, &ServiceProcess::failed);
+        expectWarning("the demonstration database is not there: /none.sqlite");
+        service.start({Service, "/none.sqlite", m_folder.filePath("views")});
+        QCOMPARE(failed.size(), 1);
+    }
+
+private:
+    ServiceProcess::Command command(const QString &program) const
+    {
+        return {program, m_folder.filePath("empty.sqlite"), m_folder.filePath("views")};
+    }
+
+    QTemporaryDir m_folder;
+};
+
+SUBJECT_TEST_MAIN(ServiceProcessTest)
+#include "tst_serviceprocess.moc"
