@@ -54,7 +54,7 @@ private slots:
         m_folder = std::make_unique<QTemporaryDir>();
         for (const QByteArray &skin : {QByteArray("white"), QByteArray("black")}) {
             write(path(skin + "/subject/subject.css"), "QFrame { color: " + skin + "; }");
-            write(path(skin + "/skin.json"), R"({"tipsColors": ["#010203", "#0A0B0C"]})");
+            write(path(skin + "/skin.json"), "{\"tipsColors\": [\"#010203\", \"#0A0B0C\"]}");
         }
         TFCore::instance()->setSkinRoot(path("."));
         QVERIFY(TFCore::instance()->setCurrentSkin("white"));
@@ -220,7 +220,6 @@ private slots:
         view.hide();
 
         QCOMPARE(view.findChildren<QWebEnginePage *>().size(), 0);
-        QVERIFY(view.children().isEmpty());
         QCOMPARE(view.title(), QString());
         QCOMPARE(view.zoom(), 1.5);
     }

@@ -3,6 +3,7 @@
 #include "subjecttest.h"
 
 #include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTcpSocket>
 #include <QTemporaryDir>
 

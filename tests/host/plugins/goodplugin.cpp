@@ -3,6 +3,18 @@
 
 #include <QMetaType>
 
+namespace {
+void destruct(void *page)
+{
+    static_cast<TestPage *>(page)->~TestPage();
+}
+
+void *construct(void *where, const void *)
+{
+    return new (where) TestPage;
+}
+} // namespace
+
 class GoodPlugin : public IPlugin
 {
     Q_OBJECT
@@ -14,12 +26,10 @@ public:
         auto *registration = new QObject;
         registration->setProperty("id", "TFApp.SAMPLE");
         registration->setProperty("arguments", arguments);
-        registration->setProperty(
-            "metaId",
-            QMetaType::registerType(
-                "TestPage", [](void *page) { static_cast<TestPage *>(page)->~TestPage(); },
-                [](void *where, const void *) -> void * { return new (where) TestPage; }, sizeof(TestPage),
-                QMetaType::NeedsConstruction | QMetaType::NeedsDestruction, &TestPage::staticMetaObject));
+        registration->setProperty("metaId",
+                                  QMetaType::registerNormalizedType(
+                                      "TestPage", destruct, construct, int(sizeof(TestPage)),
+                                      QMetaType::NeedsConstruction | QMetaType::NeedsDestruction, nullptr));
         addAutoReleasedObject(registration);
         return true;
     }
