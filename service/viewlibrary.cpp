@@ -26,7 +26,7 @@ QStringList viewFiles(const QString &folder)
 {
     const QDir base(folder);
     QStringList files;
-    QDirIterator it(folder, {QStringLiteral("*.json")}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator it(base.absolutePath(), {QStringLiteral("*.json")}, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext())
         files << base.relativeFilePath(it.next());
     for (const QString &name : reservedFiles())
