@@ -75,6 +75,21 @@ void TFSubjectTableWidget::initLayout()
     m_layout->addWidget(m_pageLine);
 }
 
+void TFSubjectTableWidget::orderKeyboard()
+{
+    // Controls and grids come later than the page bar and stand above it.
+    QWidget *previous = m_filterBar;
+    const QList<QWidget *> controls = m_filterBar->findChildren<QWidget *>();
+    for (QWidget *control : controls) {
+        if (control->focusPolicy() == Qt::NoFocus)
+            continue;
+        setTabOrder(previous, control);
+        previous = control;
+    }
+    if (QWidget *rows = m_grid ? m_grid->rowsWidget() : nullptr)
+        setTabOrder(m_timeLabel, rows);
+}
+
 void TFSubjectTableWidget::setFilterBarVisible(bool visible)
 {
     if (m_filterBarVisible == visible)
@@ -148,6 +163,7 @@ void TFSubjectTableWidget::showState(const QString &text, Qt::CursorShape cursor
 void TFSubjectTableWidget::startLoading()
 {
     m_startTime = QTime::currentTime();
+    m_gridHolder->setMessage(tr("加载中..."));
     showState(
         QStringLiteral("加载中... (起始时间: %1)").arg(m_startTime.toString(QStringLiteral("hh:mm:ss zzz"))),
         Qt::WaitCursor);
@@ -156,12 +172,14 @@ void TFSubjectTableWidget::startLoading()
 void TFSubjectTableWidget::noData()
 {
     m_timeLabel->show();
+    m_gridHolder->setMessage(tr("无数据"));
     showState(QStringLiteral("无数据!"), Qt::ArrowCursor);
 }
 
 void TFSubjectTableWidget::finished()
 {
     m_timeLabel->show();
+    m_gridHolder->setMessage(QString());
     const double seconds = m_startTime.msecsTo(QTime::currentTime()) / kMillisecondsPerSecond;
     showState(QStringLiteral("耗时 %1 秒").arg(seconds, 0, 'f', 4), Qt::ArrowCursor);
 }

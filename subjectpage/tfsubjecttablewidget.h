@@ -108,6 +108,8 @@ private:
     void connectGrid();
     void openLink(const QString &link);
     void setDataCount(int total, int pageIndex, int pageSize);
+    /// Tab goes from the filter bar over the rows to the page bar.
+    void orderKeyboard();
     void showTime();
     void showState(const QString &text, Qt::CursorShape cursor);
 

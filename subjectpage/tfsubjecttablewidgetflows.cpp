@@ -38,6 +38,7 @@ bool TFSubjectTableWidget::parseConfig(const QJsonValue &json, bool isNew)
         m_filterBar->setFilterData(m_parser->filterData());
         if (m_filterBarVisible)
             m_filterBar->show();
+        orderKeyboard();
         m_total = 0;
         m_pageBar->reset();
     }
@@ -201,6 +202,7 @@ bool TFSubjectTableWidget::parseData(const QJsonValue &json)
     }
     m_filterBar->setUnitText(m_header->firstUnit());
     m_gridHolder->showRows(*m_parser);
+    orderKeyboard();
     setDataCount(m_parser->rowCount(), m_parser->pageIndex(), m_parser->pageSize());
     return true;
 }

@@ -339,8 +339,19 @@ void TFSujectTableView::setVGridHeader(const QString &fieldName)
 
 void TFSujectTableView::focusRows()
 {
-    if (m_view && m_view->itemView())
-        m_view->itemView()->setFocus(Qt::OtherFocusReason);
+    if (QWidget *rows = rowsWidget())
+        rows->setFocus(Qt::OtherFocusReason);
+}
+
+QWidget *TFSujectTableView::rowsWidget() const
+{
+    return m_view ? m_view->itemView() : nullptr;
+}
+
+void TFSujectTableView::setEmptyText(const QString &text)
+{
+    if (m_view)
+        m_view->options().setEmptyText(text);
 }
 
 void TFSujectTableView::handleReset()

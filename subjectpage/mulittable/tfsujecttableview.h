@@ -57,6 +57,10 @@ public:
     Qtitan::Grid *grid() const { return m_grid; }
     /// Gives the keyboard to the rows.
     void focusRows();
+    /// The widget that takes the keyboard for the rows; null before setModel().
+    QWidget *rowsWidget() const;
+    /// Text in the middle of a grid without rows; an empty one shows the control's own.
+    void setEmptyText(const QString &text);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -8,6 +8,7 @@
 #include "tfunits.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QVBoxLayout>
 
 TFTableGridHolder::TFTableGridHolder(QWidget *parent)
@@ -24,6 +25,23 @@ TFSujectTableView *TFTableGridHolder::makeGrid(TFTreeStruct *header)
     m_model->setHeader(header);
     replaceWidget();
     return m_grid;
+}
+
+void TFTableGridHolder::setMessage(const QString &message)
+{
+    m_message = message;
+    if (m_grid)
+        m_grid->setEmptyText(message);
+    update();
+}
+
+void TFTableGridHolder::paintEvent(QPaintEvent *)
+{
+    if (m_grid)
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect(), Qt::AlignCenter, m_message);
 }
 
 void TFTableGridHolder::replaceWidget()

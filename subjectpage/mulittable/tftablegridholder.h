@@ -29,11 +29,18 @@ public:
 
     TFSubjectTableModel *model() const { return m_model; }
 
+    /// Text in the middle of the table while it has no rows; an empty one leaves a grid its own.
+    void setMessage(const QString &message);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
     void replaceWidget();
     void freezeColumns(int count);
 
     TFSujectTableView *m_grid = nullptr;
     TFSubjectTableModel *m_model = nullptr;
+    QString m_message;
     bool m_hadFocus = false; ///< the keyboard was in the grid that the present one replaced
 };

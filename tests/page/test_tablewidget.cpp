@@ -423,6 +423,11 @@ void TableWidgetTest::keyboardStaysInTheGridAcrossPages()
     m_table->findChild<QPushButton *>("nextButton")->click();
     QTRY_COMPARE(rowText(0), QString("CODE200 | NAME200 | 200.00"));
     QTRY_VERIFY(m_table->grid()->isAncestorOf(QApplication::focusWidget()));
+    QWidget *next = QApplication::focusWidget();
+    do
+        next = next->nextInFocusChain();
+    while (!next->isEnabled() || !next->isVisible() || !(next->focusPolicy() & Qt::TabFocus));
+    QCOMPARE(next->objectName(), QString("headButton"));
 }
 
 SUBJECT_TEST_MAIN(TableWidgetTest)
