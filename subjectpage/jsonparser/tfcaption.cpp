@@ -12,8 +12,8 @@ bool TFCaption::hasExpression(const QString &caption)
 
 QString TFCaption::expression(const QString &caption)
 {
+    const int open = caption.indexOf(QLatin1Char('{'));
     const int close = caption.lastIndexOf(QLatin1Char('}'));
-    const int open = caption.left(close).lastIndexOf(QLatin1Char('{'));
     return caption.mid(open + 1, close - open - 1);
 }
 

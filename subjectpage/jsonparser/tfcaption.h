@@ -8,7 +8,7 @@ namespace TFCaption {
 /// True when there is something between a "{" and a later "}".
 bool hasExpression(const QString &caption);
 
-/// The text between the last "{" that has a "}" behind it and the last "}"; the caption must have one.
+/// The text between the first "{" and the last "}"; the caption must have an expression.
 QString expression(const QString &caption);
 
 /// The caption with each expression replaced by \a text. An expression reaches from the first "{" of a line

@@ -1,0 +1,264 @@
+#include "subjecttest.h"
+
+#include "jsonparser/tfbasejsontable.h"
+#include "jsonparser/tfjsonparser.h"
+#include "jsonparser/tfjsontablefactory.h"
+#include "mulittable/tfheaderdatastruct.h"
+#include "net/tfjsp.h"
+#include "net/tfviewproperties.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <functional>
+
+namespace {
+const QDir Data(TEST_DATA_DIR);
+
+QByteArray contents(const QString &path)
+{
+    QFile file(Data.filePath(path));
+    if (!file.open(QFile::ReadOnly))
+        qFatal("no file %s", qPrintable(file.fileName()));
+    return file.readAll();
+}
+
+/// What all readers make of one reply, in one line.
+QString readingOf(const QByteArray &reply)
+{
+    const auto columnsOf = [](TFTreeStruct &header) {
+        QStringList columns;
+        for (const TFTreeStruct *leaf : header.leaves())
+            columns.append(QString("%1 '%2'").arg(leaf->info().fieldName, leaf->displayCaption()));
+        return columns.join(", ");
+    };
+    NtResponse response;
+    const bool envelope = TFJSP::parseResponse(reply, response);
+    QJsonArray nodes;
+    const bool tree = TFJSP::parseNavTree(reply, nodes);
+    TFTreeStruct header("");
+    TFSubject::TFJsonParser parser;
+    QStringList children;
+    QObject::connect(&parser, &TFSubject::TFJsonParser::signalSubTableJsonData, &parser,
+                     [&](qint64 id, const QString &) { children.append(QString::number(id)); });
+    parser.parseConfig(response.data, &header);
+    const int configRows = parser.rowStore().rowCount();
+    const bool page = parser.parseData(response.data);
+    QList<QList<QVariant>> plain;
+    const bool exported = parser.parseData(reply, &plain, &header);
+    return QString("envelope %1 state %2, tree %3, columns [%4], rows %5, page %6, cells %7, filters %8, "
+                   "children [%9]")
+               .arg(envelope)
+               .arg(response.state)
+               .arg(tree)
+               .arg(columnsOf(header))
+               .arg(configRows)
+               .arg(page)
+               .arg(parser.rowStore().cellCount(0))
+               .arg(parser.filterData().size())
+               .arg(children.join(' ')) +
+           QString(", total %1, export %2 %3").arg(parser.rowCount()).arg(exported).arg(plain.size());
+}
+
+/// Runs every reader over a payload and checks what must hold whatever it is.
+void readAll(const QJsonValue &payload)
+{
+    TFTreeStruct header("");
+    TFSubject::TFJsonParser parser;
+    QCOMPARE(parser.parseConfig(payload, &header), !payload.isUndefined());
+    for (int pass = 0; pass < 2; ++pass) {
+        QCOMPARE(parser.rowStore().rowCount(), parser.dataMaps().size());
+        for (const RowData &row : parser.rows())
+            QVERIFY(row.size() >= header.leaves().size());
+        parser.parseData(payload);
+    }
+    QVERIFY(header.leafCaptions().size() == header.leaves().size() && header.depth() >= 1);
+    parser.orderProperty();
+    parser.childViewParams(1);
+    parser.filterData();
+
+    QList<QList<QVariant>> plain;
+    const QByteArray reply = QJsonDocument(QJsonObject{{"state", 1}, {"data", payload}}).toJson();
+    QCOMPARE(parser.parseData(reply, &plain, &header), !payload.toObject().isEmpty());
+    for (const QList<QVariant> &row : plain)
+        QCOMPARE(row.size(), header.leaves().size());
+    TFUc::readViewProperties(payload.toArray());
+    for (int id = 1; id <= 12; ++id) {
+        const auto table = TFJsonTableFactory::create(id);
+        if (table)
+            table->initWith(payload);
+    }
+}
+
+const QJsonArray Faults = {QJsonValue(),
+                           true,
+                           1,
+                           -1e300,
+                           0.5,
+                           "x",
+                           "[",
+                           "[{}]",
+                           "{}",
+                           QJsonArray(),
+                           QJsonObject(),
+                           QJsonArray{QJsonArray()},
+                           QJsonArray{QJsonObject()},
+                           QJsonArray{QJsonValue(), 1}};
+
+using Visit = std::function<void(const QJsonValue &)>;
+
+/// Visits every document that differs from \a value in one place: a member, an element or what a text holds
+/// replaced by a fault, or left out.
+void forEachFault(const QJsonValue &value, const Visit &visit)
+{
+    for (const QJsonValue &fault : Faults)
+        visit(fault);
+    if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            QJsonObject changed = object;
+            changed.remove(it.key());
+            visit(changed);
+            forEachFault(it.value(), [&](const QJsonValue &member) {
+                changed.insert(it.key(), member);
+                visit(changed);
+            });
+        }
+    } else if (value.isArray()) {
+        QJsonArray changed = value.toArray();
+        for (int i = 0; i < changed.size(); ++i) {
+            const QJsonValue element = changed.at(i);
+            forEachFault(element, [&](const QJsonValue &other) {
+                changed.replace(i, other);
+                visit(changed);
+            });
+            changed.replace(i, element);
+        }
+    } else if (value.isString() && (value.toString().startsWith('[') || value.toString().startsWith('{'))) {
+        const QJsonValue held = QJsonDocument::fromJson('[' + value.toString().toUtf8() + ']').array().at(0);
+        forEachFault(held, [&](const QJsonValue &other) {
+            visit(QString::fromUtf8(other.isArray() ? QJsonDocument(other.toArray()).toJson()
+                                                    : QJsonDocument(other.toObject()).toJson()));
+        });
+    }
+}
+} // namespace
+
+class TestWrongDocuments : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void eachFileReadsAsExpected_data();
+    void eachFileReadsAsExpected();
+    void replyCutOffAnywhereIsRefused();
+    void oneFaultAnywhereHarmsNothing();
+    void hugeTextsAndDeepNestingEnd_data();
+    void hugeTextsAndDeepNestingEnd();
+};
+
+void TestWrongDocuments::eachFileReadsAsExpected_data()
+{
+    QTest::addColumn<QString>("expected");
+    QHash<QString, QString> expected;
+    const QStringList lines =
+        QString::fromUtf8(contents("expected/wrong-documents.txt")).split('\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines)
+        expected.insert(line.section(": ", 0, 0), line.section(": ", 1));
+    const QStringList files = QDir(Data.filePath("wrong")).entryList({"*.json"}, QDir::Files);
+    QCOMPARE(files.size(), lines.size());
+    for (const QString &file : files)
+        QTest::newRow(qPrintable(file)) << expected.value(file);
+}
+
+void TestWrongDocuments::eachFileReadsAsExpected()
+{
+    QFETCH(QString, expected);
+    allowWarnings("^(cant find field name:|respone is not json obj:)");
+    const QByteArray reply = contents(QString("wrong/") + QTest::currentDataTag());
+    const QString reading = readingOf(reply);
+    // A parser's complaint is part of what is expected; the same text from another reader is not repeated.
+    QStringList said;
+    for (const QString &line : debugLines() + warnings()) {
+        if ((line.contains("Json parse error") || line.startsWith("respone") ||
+             line.contains("can't found")) &&
+            !said.contains(line))
+            said.append(line);
+    }
+    QCOMPARE(reading + (said.isEmpty() ? "" : " | " + said.join(" | ")), expected);
+}
+
+void TestWrongDocuments::replyCutOffAnywhereIsRefused()
+{
+    allowWarnings("^respone is not json obj:");
+    const QByteArray reply =
+        QJsonDocument::fromJson(contents("good/reply.json")).toJson(QJsonDocument::Compact);
+    for (int length = 0; length < reply.size(); ++length) {
+        NtResponse response;
+        QVERIFY2(!TFJSP::parseResponse(reply.left(length), response), qPrintable(QString::number(length)));
+        QVERIFY(response.data.isNull());
+    }
+    NtResponse response;
+    QVERIFY(TFJSP::parseResponse(reply, response));
+}
+
+void TestWrongDocuments::oneFaultAnywhereHarmsNothing()
+{
+    allowWarnings("^cant find field name:");
+    const QJsonValue good = QJsonDocument::fromJson(contents("good/reply.json")).object().value("data");
+    int documents = 0;
+    forEachFault(good, [&documents](const QJsonValue &payload) {
+        ++documents;
+        readAll(payload);
+    });
+    QVERIFY2(documents > 3000, qPrintable(QString::number(documents)));
+}
+
+void TestWrongDocuments::hugeTextsAndDeepNestingEnd_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("expression");
+    constexpr int TenMegabytes = 10 * 1024 * 1024;
+    QTest::newRow("10 MB caption") << QString(TenMegabytes, 'x') << "1+1";
+    QTest::newRow("10 MB of open braces") << QString(TenMegabytes, '{') << "1+1";
+    QTest::newRow("10 MB in braces") << '{' + QString(TenMegabytes, '[') + '}' << "1+1";
+    QTest::newRow("a million pairs of braces") << QString("{}").repeated(1000000) << "1+1";
+    QTest::newRow("10 MB formula") << "c" << QString("SUM[").repeated(TenMegabytes / 4);
+    QTest::newRow("10 MB aggregate") << "c" << QString("SUM[").repeated(TenMegabytes / 4) + ']';
+}
+
+void TestWrongDocuments::hugeTextsAndDeepNestingEnd()
+{
+    QFETCH(QString, caption);
+    QFETCH(QString, expression);
+    const QJsonObject field{{"FieldName", "A"},
+                            {"Caption", caption},
+                            {"Visible", true},
+                            {"ValueType", "Decimal"},
+                            {"UnboundExpression", expression}};
+    const QString settings = QString::fromUtf8(QJsonDocument(field).toJson());
+    const QJsonObject document{
+        {"Data", QJsonArray{QJsonObject{{"A", caption}, {expression.left(100), 1}}}},
+        {"View_Config",
+         QJsonArray{QJsonObject{
+             {"prop_typ", "EXTEND"}, {"prop_name", "Bands"}, {"ext_prop_val", '[' + settings + ']'}}}},
+        {"Object_View_Config",
+         QJsonArray{QJsonObject{{"obj_prop_name", "A"}, {"vw_sts", "1"}, {"ots_cfg", settings}}}}};
+    QElapsedTimer timer;
+    timer.start();
+    TFTreeStruct header("");
+    TFSubject::TFJsonParser parser;
+    QVERIFY(parser.parseConfig(document, &header));
+    QCOMPARE(parser.rowStore().rowCount(), 1);
+    QCOMPARE(header.leaves().size(), 1);
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+
+    expectWarning("respone is not json obj: \"too deeply nested document\"");
+    NtResponse response;
+    QVERIFY(!TFJSP::parseResponse("{\"data\":" + QByteArray(100000, '['), response));
+}
+
+SUBJECT_TEST_MAIN(TestWrongDocuments)
+#include "tst_wrongdocuments.moc"
