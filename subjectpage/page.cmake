@@ -14,6 +14,7 @@ target_sources(subjectui PRIVATE
 target_sources(subjectcore PRIVATE
     filterwidget/tfcacheconfig.cpp filterwidget/tfcacheconfig.h
     tfmenucfg.cpp tfmenucfg.h
+    resources/subjectmenu.qrc
 )
 target_sources(subjectui PRIVATE
     tfrowdelegate.cpp tfrowdelegate.h

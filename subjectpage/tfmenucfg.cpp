@@ -27,6 +27,12 @@ constexpr QLatin1String keyItemName("itemName");
 constexpr QLatin1String keyViewId("obj_vw_id");
 } // namespace
 
+/// The resources of a static library are there only for who asks for them.
+static void registerMenuResource()
+{
+    Q_INIT_RESOURCE(subjectmenu);
+}
+
 TFMenuCfg *TFMenuCfg::instance()
 {
     static TFMenuCfg menu(QCoreApplication::applicationDirPath());
@@ -36,6 +42,7 @@ TFMenuCfg *TFMenuCfg::instance()
 TFMenuCfg::TFMenuCfg(const QString &applicationFolder, QObject *parent)
     : QObject(parent)
 {
+    registerMenuResource();
     const QString ownFile = applicationFolder + menuFileName;
     if (QFile::exists(ownFile))
         load(ownFile);

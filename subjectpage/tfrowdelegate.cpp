@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
-#include <QIcon>
 #include <QImageReader>
 #include <QPainter>
 #include <QToolTip>
@@ -15,13 +14,6 @@ namespace {
 constexpr int rowHeight = 26;
 constexpr int markerIndent = 14; // from the left edge of the row's rectangle to the left
 constexpr int accentBarWidth = 3;
-
-/// Through an icon, which takes the picture of double size on a screen of double density.
-QPixmap skinPixmap(const QString &fileName)
-{
-    const QString path = TFCore::instance()->getCurrentSkinPath(fileName);
-    return QIcon(path).pixmap(QImageReader(path).size());
-}
 } // namespace
 
 TFRowDelegate::TFRowDelegate(bool isBlock, QObject *parent)
@@ -34,8 +26,12 @@ TFRowDelegate::TFRowDelegate(bool isBlock, QObject *parent)
 
 void TFRowDelegate::loadMarkers()
 {
-    m_marker = skinPixmap(QStringLiteral("subject/tree_item_normal_2.png"));
-    m_activeMarker = skinPixmap(QStringLiteral("subject/tree_item_normal.png"));
+    const QString path =
+        TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal_2.png"));
+    m_marker = QIcon(path);
+    m_markerSize = QImageReader(path).size();
+    m_activeMarker =
+        QIcon(TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal.png")));
 }
 
 bool TFRowDelegate::isOpen(const QModelIndex &index) const

@@ -24,6 +24,7 @@ class TestMenuCfg : public SubjectTest
 private slots:
     void viewsAreLookedUpInTheMenu_data();
     void viewsAreLookedUpInTheMenu();
+    void shippedMenuServesWhereNoFileIs();
     void englishHostGetsEnglishNames();
     void brokenMenuLeavesTheTablesEmpty_data();
     void brokenMenuLeavesTheTablesEmpty();
@@ -75,6 +76,17 @@ void TestMenuCfg::viewsAreLookedUpInTheMenu()
     QTEST(QString("%1/%2/%3/%4").arg(item.sectorName, item.sectorCode, item.itemName).arg(item.obj_vw_id),
           "item");
     QCOMPARE(menu.topicName(5), QString());
+}
+
+void TestMenuCfg::shippedMenuServesWhereNoFileIs()
+{
+    const TFMenuCfg menu(m_folder.filePath("nowhere"));
+
+    for (int code : {190, 2, 61, 311, 50, 758, 4781, 159, 4782, 4785, 4808, 4837})
+        QVERIFY2(!menu.topicName(code).isEmpty(), qPrintable(QString::number(code)));
+    QCOMPARE(menu.topicName(2), QString("股票专题"));
+    QCOMPARE(menu.topicOfView("260"), 2);
+    QCOMPARE(menu.itemOfView("1641").sectorCode, QString("F9TEST"));
 }
 
 void TestMenuCfg::englishHostGetsEnglishNames()

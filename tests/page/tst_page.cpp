@@ -151,6 +151,14 @@ void TestPage::urlGivesTopicCaptionAndTitle_data()
                              << "-1"
                              << ""
                              << "";
+    QTest::newRow("view alone finds its topic and no caption") << "view://subjectpage?objvwid=612"
+                                                               << "61"
+                                                               << ""
+                                                               << "";
+    QTest::newRow("topic without a title") << "view://subjectpage?pnodecode=61"
+                                           << "61"
+                                           << "宏观经济专题"
+                                           << "宏观经济专题";
     QTest::newRow("escaped title") << "view://subjectpage?pnodecode=5&title=a%26b%25"
                                    << "5"
                                    << "a&b%"
