@@ -44,7 +44,6 @@ private slots:
     void titleForTheHostFollowsTheCaption();
     void skinColoursReachTheCommonStore();
     void stockPageShowsTreesAndOpensTheNode();
-    void otherTopicAsksForNoBlocks();
     void nodeCodeTakesPrecedenceOverTheView();
     void urlWithoutNodeAndViewShowsAnEmptyTree();
     void failedNavigationLeavesTheImage_data();
@@ -262,14 +261,6 @@ void TestPage::stockPageShowsTreesAndOpensTheNode()
     QCOMPARE(child<TFSubjectMainFrame>()->windowTitle(), QString("股票专题:行情"));
     QCOMPARE(child<TFTreeWidgetContainer>()->windowTitle(), QString("股票专题"));
     QTRY_COMPARE(TFCacheConfig::instance()->records("7", "").size(), 1);
-}
-
-void TestPage::otherTopicAsksForNoBlocks()
-{
-    open("pnodecode=61&objvwid=77");
-
-    QTRY_VERIFY(loadingImage()->isHidden());
-    QTRY_COMPARE(requestLines(), QString("38:61, 390:"));
 }
 
 void TestPage::nodeCodeTakesPrecedenceOverTheView()

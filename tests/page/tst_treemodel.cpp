@@ -28,7 +28,6 @@ private slots:
     void mainTreeTakesNoChecks();
     void hundredThousandRowsTakeLinearTime();
     void deepChainIsBuiltAndFreed();
-    void secondBuildReplacesTheFirst();
     void constantsAreFoundByTypeAndFilter();
 };
 
@@ -210,18 +209,6 @@ void TestTreeModel::deepChainIsBuiltAndFreed()
         QCOMPARE(model.checkedCodes().size(), depth);
     }
     QLoggingCategory::setFilterRules("subject.*.debug=true");
-}
-
-void TestTreeModel::secondBuildReplacesTheFirst()
-{
-    TFSubjectTreeModel model;
-    model.build(TreeText::blocks(), 0, true);
-    model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
-
-    model.build(QJsonArray{node(10, 2, "a")}, 2, false);
-
-    QCOMPARE(TreeText::lines(model), QStringList({"a"}));
-    QVERIFY(model.checkedCodes().isEmpty());
 }
 
 void TestTreeModel::constantsAreFoundByTypeAndFilter()

@@ -39,9 +39,8 @@ private slots:
     void searchOpensTheFirstLeafThatRemains_data();
     void searchOpensTheFirstLeafThatRemains();
     void searchLineAsksAtTheEndOfEditing();
-    void clickOpensOnce();
-    void folderOpensNothing();
-    void nodeWithAnAddressOpensEachTime();
+    void clickOpensWhatIsNotOpenYet_data();
+    void clickOpensWhatIsNotOpenYet();
     void leafTellsItsTopGroup();
     void topGroupOpensWithAllBelow();
     void keyboardOpensAndFolds();
@@ -238,37 +237,29 @@ void TestTreeWidgets::searchLineAsksAtTheEndOfEditing()
         QTRY_COMPARE(button->property("opacity").toReal(), 1.0);
 }
 
-void TestTreeWidgets::clickOpensOnce()
+void TestTreeWidgets::clickOpensWhatIsNotOpenYet_data()
 {
+    QTest::addColumn<QList<int>>("clicked"); // place of the group and of the leaf, -1 for the group itself
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("open leaf") << QList<int>{0, 0} << QStringList{};
+    QTest::newRow("another leaf and back") << QList<int>{1, 0, 0, 0} << QStringList{"263 资料", "260 日线"};
+    QTest::newRow("folder keeps what is open") << QList<int>{1, -1, 0, 0} << QStringList{};
+    QTest::newRow("node with an address opens each time")
+        << QList<int>{1, 1, 1, 1}
+        << QStringList{"264 网站 http://127.0.0.1:1/x", "264 网站 http://127.0.0.1:1/x"};
+}
+
+void TestTreeWidgets::clickOpensWhatIsNotOpenYet()
+{
+    QFETCH(QList<int>, clicked);
     load();
-    emit view()->clicked(at({0, 0}));
     QCOMPARE(opened(), QStringList({"260 日线"}));
 
-    emit view()->clicked(at({1, 0}));
-    emit view()->clicked(at({0, 0}));
-    QCOMPARE(opened(), QStringList({"263 资料", "260 日线"}));
-}
+    for (int i = 0; i < clicked.size(); i += 2)
+        emit view()->clicked(clicked[i + 1] < 0 ? at({clicked[i]}) : at({clicked[i], clicked[i + 1]}));
 
-void TestTreeWidgets::folderOpensNothing()
-{
-    load();
-    opened();
-
-    emit view()->clicked(at({1}));
-    emit view()->clicked(at({0, 0}));
-
-    QCOMPARE(opened(), QStringList());
-}
-
-void TestTreeWidgets::nodeWithAnAddressOpensEachTime()
-{
-    load();
-    opened();
-
-    emit view()->clicked(at({1, 1}));
-    emit view()->clicked(at({1, 1}));
-
-    QCOMPARE(opened(), QStringList({"264 网站 http://127.0.0.1:1/x", "264 网站 http://127.0.0.1:1/x"}));
+    QTEST(opened(), "expected");
 }
 
 void TestTreeWidgets::leafTellsItsTopGroup()
