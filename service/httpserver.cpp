@@ -8,17 +8,29 @@
 
 #include <httplib.h>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 namespace service {
 
 namespace {
 
 const std::size_t MaxBodyBytes = 1024 * 1024;
+const int KeepAliveSeconds = 2;
 const char TokenHeader[] = "kvt-token";
 const char UserHeader[] = "userId";
 
 // The charset is named on purpose: with the bare type the server library compresses every reply by itself,
 // which costs more than the query on a fast line.
 const char ContentType[] = "application/json;charset=utf-8";
+
+/// The server library would share the port with any other program that asks for it.
+void takePortForOneself(socket_t socket)
+{
+    const int on = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+}
 
 /// Adapts the pool to what the server library asks for.
 class TaskQueue : public httplib::TaskQueue
@@ -99,6 +111,7 @@ public:
     ServerSettings settings;
     RequestHandler handler;
     httplib::Server server;
+    std::atomic<bool> ended{false};
 };
 
 HttpServer::HttpServer(const ServerSettings &settings, const ViewLibrary &library)
@@ -110,6 +123,9 @@ HttpServer::HttpServer(const ServerSettings &settings, const ViewLibrary &librar
     // Head and body go out in two writes; without this the second waits for the client's acknowledgement.
     server.set_tcp_nodelay(true);
     server.set_keep_alive_max_count(1000);
+    // A client that keeps its connection holds a thread until it speaks again.
+    server.set_keep_alive_timeout(KeepAliveSeconds);
+    server.set_socket_options(takePortForOneself);
     d->route("/bas/subject/data", &RequestHandler::subjectData);
     d->route("/bas/ds/data", &RequestHandler::namedData);
     server.set_error_handler([](const httplib::Request &, httplib::Response &response) {
@@ -131,10 +147,14 @@ int HttpServer::bind()
 void HttpServer::serve()
 {
     d->server.listen_after_bind();
+    d->ended = true;
 }
 
 void HttpServer::stop()
 {
+    // The server library forgets a stop that comes before it has begun to listen.
+    while (!d->server.is_running() && !d->ended)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     d->server.stop();
 }
 

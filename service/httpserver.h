@@ -15,7 +15,7 @@ struct ServerSettings
 {
     QString host = QStringLiteral("127.0.0.1");
     int port = 0; ///< 0 is any free port
-    int threads = 8;
+    int threads = 32;
     QString databaseFile;
     TokenFile tokens;
 };
@@ -33,7 +33,8 @@ public:
     /// Serves until stop(); to be called once after bind().
     void serve();
 
-    /// Ends serve() from any thread, once the running requests are answered.
+    /// Ends serve() from any thread, once the running requests are answered. Waits for a serve() that is
+    /// about to begin.
     void stop();
 
 private:

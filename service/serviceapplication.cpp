@@ -82,7 +82,7 @@ void addOptions(QCommandLineParser &parser)
         {QStringLiteral("token-file"),
          QStringLiteral("Serve only clients with one of these tokens, one a line."), QStringLiteral("file")},
         {QStringLiteral("threads"), QStringLiteral("Requests that are served at once."),
-         QStringLiteral("count"), QStringLiteral("8")},
+         QStringLiteral("count"), QStringLiteral("32")},
         {QStringLiteral("log"), QStringLiteral("quiet: warnings only; access: a line a request; debug."),
          QStringLiteral("level"), QStringLiteral("quiet")},
         {QStringLiteral("check"), QStringLiteral("Check the view documents and end.")},

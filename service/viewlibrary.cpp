@@ -26,7 +26,8 @@ QStringList viewFiles(const QString &folder)
 {
     const QDir base(folder);
     QStringList files;
-    QDirIterator it(base.absolutePath(), {QStringLiteral("*.json")}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator it(base.absolutePath(), {QStringLiteral("*.json")}, QDir::Files,
+                    QDirIterator::Subdirectories);
     while (it.hasNext())
         files << base.relativeFilePath(it.next());
     for (const QString &name : reservedFiles())

@@ -85,6 +85,7 @@ private slots:
     void textThatIsNotHttpDoesNoHarm();
     void manyClientsAtOnceAreServed();
     void tokensAreAskedForOnlyWithAFile();
+    void aPortBelongsToOneService();
     void signalsEndItCleanly_data();
     void signalsEndItCleanly();
     void endsWithTheProcessThatStartedIt();
@@ -211,6 +212,17 @@ void TestSubjectService::tokensAreAskedForOnlyWithAFile()
     QCOMPARE(post(open.port(), SubjectPath, PageBody, "anything").status, 200);
 }
 
+void TestSubjectService::aPortBelongsToOneService()
+{
+    RunningService first(*m_fixture);
+
+    RunningService second(*m_fixture, {"--port", QString::number(first.port())});
+
+    QCOMPARE(second.line(), QString());
+    QTRY_COMPARE_WITH_TIMEOUT(second.process().state(), QProcess::NotRunning, 20000);
+    QCOMPARE(second.process().exitCode(), 1);
+}
+
 void TestSubjectService::signalsEndItCleanly_data()
 {
     QTest::addColumn<int>("signal");
@@ -286,6 +298,9 @@ void TestSubjectService::wrongUsageIsToldWithItsStatus_data()
     QTest::newRow("not a database") << QStringList{"--db", "VIEWS/12.json", "--views", "VIEWS"} << 1
                                     << QByteArray("cannot open database");
     QTest::newRow("check") << good + QStringList{"--check"} << 0 << QByteArray("3 views, 0 faults");
+    QTest::newRow("check in a relative folder")
+        << QStringList{"--db", "test.sqlite", "--views", "views", "--check"} << 0
+        << QByteArray("3 views, 0 faults");
     QTest::newRow("check of nothing") << QStringList{"--db", "DB", "--views", "/nope", "--check"} << 1
                                       << QByteArray("/nope: no such folder");
 }
@@ -298,6 +313,7 @@ void TestSubjectService::wrongUsageIsToldWithItsStatus()
     arguments.replaceInStrings(QStringLiteral("DB"), m_fixture->databaseFile());
     arguments.replaceInStrings(QStringLiteral("VIEWS"), m_fixture->viewFolder());
     QProcess process;
+    process.setWorkingDirectory(m_fixture->filePath(QString()));
     process.setProcessChannelMode(QProcess::MergedChannels);
 
     process.start(QStringLiteral(SERVICE_PROGRAM), arguments);
