@@ -102,6 +102,9 @@ public:
 
     GridColors colors() const override;
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 signals:
     void colorsChanged();
 

@@ -128,11 +128,11 @@ private:
 
     GridBase *m_grid;
     GridViewOptions *m_options;
-    GridArea *m_area;
     QVector<GridColumn *> m_columns;
     QVector<GridColumn *> m_order;
     QPointer<GridColumn> m_sortColumn;
     int m_sortState = AsDelivered;
+    GridArea *m_area; // last: it reads the columns from its first moment
 };
 
 /// Columns side by side under one line of captions.

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <QAccessibleInterface>
+#include <QPointer>
+
+namespace Qtitan {
+
+class GridArea;
+class GridColumnBase;
+
+/// A cell to a screen reader, known by its place on the screen.
+class AccessibleCell : public QAccessibleInterface,
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleActionInterface
+{
+public:
+    AccessibleCell(GridArea *area, int line, int slot);
+
+    int line() const { return m_line; }
+    int slot() const { return m_slot; }
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    bool isValid() const override;
+    QObject *object() const override { return nullptr; }
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    QRect rect() const override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text, const QString &) override {}
+    QAccessibleInterface *parent() const override;
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+    bool isSelected() const override;
+    QList<QAccessibleInterface *> columnHeaderCells() const override;
+    QList<QAccessibleInterface *> rowHeaderCells() const override { return {}; }
+    int columnIndex() const override { return m_slot; }
+    int rowIndex() const override { return m_line; }
+    int columnExtent() const override { return 1; }
+    int rowExtent() const override { return 1; }
+    QAccessibleInterface *table() const override { return parent(); }
+
+    QStringList actionNames() const override;
+    void doAction(const QString &action) override;
+    QStringList keyBindingsForAction(const QString &) const override { return {}; }
+
+private:
+    QPointer<GridArea> m_area;
+    int m_line;
+    int m_slot;
+};
+
+/// A caption of the header to a screen reader: a column's, or a band's over one run of columns.
+class AccessibleCaption : public QAccessibleInterface
+{
+public:
+    AccessibleCaption(GridArea *area, GridColumnBase *item, int firstSlot);
+
+    int firstSlot() const { return m_firstSlot; }
+
+    bool isValid() const override { return m_area && m_item; }
+    QObject *object() const override { return nullptr; }
+    QAccessible::Role role() const override { return QAccessible::ColumnHeader; }
+    QAccessible::State state() const override;
+    QRect rect() const override;
+    QString text(QAccessible::Text kind) const override;
+    void setText(QAccessible::Text, const QString &) override {}
+    QAccessibleInterface *parent() const override;
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+private:
+    QPointer<GridArea> m_area;
+    QPointer<GridColumnBase> m_item;
+    int m_firstSlot;
+};
+
+} // namespace Qtitan

@@ -1,0 +1,308 @@
+#include <gridcontrol/gridview.h>
+
+#include "celltext.h"
+#include "gridarea.h"
+#include "gridcopy.h"
+#include "gridheader.h"
+
+#include <gridcontrol/grid.h>
+
+#include <QLayout>
+
+#include <algorithm>
+
+namespace Qtitan {
+
+namespace {
+// Room of the text's margins, of the line, and of the sort arrow over it.
+constexpr int cellRoom = 14;
+constexpr int captionRoom = 26;
+} // namespace
+
+GridViewBase::GridViewBase(GridBase *grid)
+    : QObject(grid)
+    , m_grid(grid)
+    , m_options(new GridViewOptions(this))
+    , m_area(new GridArea(this, grid))
+{
+    connect(&m_area->rows(), &RowModel::sourceColumnsChanged, this, &GridViewBase::syncColumns);
+    connect(m_options, &GridViewOptions::groupingChanged, this, &GridViewBase::regroup);
+    connect(m_options, &GridViewOptions::layoutChanged, m_area, [this] {
+        m_grid->layout()->setContentsMargins(m_options->borderWidth(), m_options->borderWidth(),
+                                             m_options->borderWidth(), m_options->borderWidth());
+        m_area->columnsChanged();
+        m_area->metricsChanged();
+    });
+}
+
+GridViewBase::~GridViewBase()
+{
+    // The area reads the columns, which go with this view.
+    delete m_area;
+}
+
+QAbstractItemModel *GridViewBase::model() const
+{
+    return m_area->rows().sourceModel();
+}
+
+QModelIndex GridViewBase::rootIndex() const
+{
+    return m_area->rows().sourceRoot();
+}
+
+QAbstractItemView *GridViewBase::itemView() const
+{
+    return m_area;
+}
+
+void GridViewBase::setModel(QAbstractItemModel *model, const QModelIndex &root)
+{
+    m_order.clear();
+    m_sortColumn = nullptr;
+    m_sortState = AsDelivered;
+    m_area->columnsChanged();
+    qDeleteAll(m_columns);
+    m_columns.clear();
+    m_area->rows().setSource(model, root);
+    syncColumns();
+}
+
+GridColumn *GridViewBase::makeColumn(int index)
+{
+    return new GridColumn(this, index);
+}
+
+void GridViewBase::syncColumns()
+{
+    const int wanted = m_area->rows().columnCount();
+    const bool fewer = wanted < m_columns.size();
+    QVector<GridColumn *> gone;
+    while (m_columns.size() > wanted) {
+        gone.append(m_columns.takeLast());
+        m_order.removeOne(gone.last());
+    }
+    while (m_columns.size() < wanted) {
+        GridColumn *column = makeColumn(m_columns.size());
+        watch(column);
+        m_columns.append(column);
+        m_order.append(column);
+    }
+    m_area->columnsChanged();
+    if (gone.contains(m_sortColumn))
+        sortByColumn(nullptr, AsDelivered);
+    qDeleteAll(gone);
+    if (fewer)
+        regroup();
+    emit columnsChanged();
+}
+
+void GridViewBase::watch(GridColumn *column)
+{
+    connect(column, &GridColumnBase::widthChanged, m_area, [this, column] {
+        m_area->columnResized(column);
+        emit columnsChanged();
+    });
+    connect(column, &GridColumnBase::placeChanged, m_area, [this] {
+        m_area->columnsChanged();
+        emit columnsChanged();
+    });
+    connect(column, &GridColumnBase::captionChanged, m_area, [this] { m_area->header()->update(); });
+    connect(column, &GridColumnBase::alignmentChanged, m_area, &GridArea::appearanceChanged);
+    connect(column, &GridColumn::cellsChanged, m_area, &GridArea::appearanceChanged);
+    connect(column, &GridColumn::groupIndexChanged, this, &GridViewBase::regroup);
+    connect(column, &GridColumn::sortingChanged, this, [this, column] {
+        if (column == m_sortColumn)
+            sortByColumn(column, m_sortState);
+    });
+}
+
+void GridViewBase::regroup()
+{
+    QVector<GridColumn *> grouping;
+    if (m_options->isGroupingEnabled())
+        std::copy_if(m_columns.begin(), m_columns.end(), std::back_inserter(grouping),
+                     [](const GridColumn *column) { return column->groupIndex() >= 0; });
+    std::stable_sort(grouping.begin(), grouping.end(), [](const GridColumn *a, const GridColumn *b) {
+        return a->groupIndex() < b->groupIndex();
+    });
+    QVector<int> columns;
+    for (const GridColumn *column : qAsConst(grouping))
+        columns.append(column->index());
+    m_area->rows().setGroupColumns(columns);
+    m_area->columnsChanged();
+    emit columnsChanged();
+}
+
+GridColumn *GridViewBase::getColumnByCaption(const QString &caption) const
+{
+    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
+                                    [&](const GridColumn *column) { return column->caption() == caption; });
+    return found == m_columns.end() ? nullptr : *found;
+}
+
+namespace {
+bool isFixed(const GridColumnBase *item)
+{
+    return item && (item->fixedKind() == FixedLeft || isFixed(item->parentBand()));
+}
+
+bool isShown(const GridColumnBase *item)
+{
+    return !item || (item->isVisible() && isShown(item->parentBand()));
+}
+} // namespace
+
+QVector<GridColumn *> GridViewBase::shownColumns() const
+{
+    QVector<GridColumn *> shown;
+    const bool hideGrouping = m_options->isGroupingEnabled() && m_options->columnHidingOnGroupingEnabled();
+    for (GridColumn *column : m_order)
+        if (isShown(column) && !(hideGrouping && column->groupIndex() >= 0))
+            shown.append(column);
+    std::stable_partition(shown.begin(), shown.end(),
+                          [](const GridColumn *column) { return isFixed(column); });
+    return shown;
+}
+
+bool GridViewBase::canMoveColumn(const GridColumn *column, const GridColumn *before) const
+{
+    const QVector<GridColumn *> shown = shownColumns();
+    const int from = shown.indexOf(const_cast<GridColumn *>(column));
+    const int to = before ? shown.indexOf(const_cast<GridColumn *>(before)) : shown.size();
+    if (from < 0 || to < 0 || to == from || to == from + 1)
+        return false;
+    // Everything that the column passes has to be of its band and on its side of the fixed edge.
+    const auto passable = [&](const GridColumn *other) {
+        return other->parentBand() == column->parentBand() ||
+               (!column->parentBand() && !other->parentBand()) || (!topBand(column) && !topBand(other));
+    };
+    for (int i = qMin(from, to); i <= qMax(from, to - 1); ++i)
+        if (!passable(shown.at(i)) || isFixed(shown.at(i)) != isFixed(column))
+            return false;
+    return true;
+}
+
+bool GridViewBase::moveColumn(GridColumn *column, GridColumn *before)
+{
+    if (!canMoveColumn(column, before))
+        return false;
+    m_order.removeOne(column);
+    m_order.insert(before ? m_order.indexOf(before) : m_order.size(), column);
+    m_area->columnsChanged();
+    emit columnsChanged();
+    return true;
+}
+
+void GridViewBase::sortByColumn(GridColumn *column, int state)
+{
+    if (state != SortUp && state != SortDown)
+        column = nullptr;
+    m_sortColumn = column;
+    m_sortState = column ? state : AsDelivered;
+    SortOrder order;
+    if (column) {
+        order.column = column->index();
+        order.role = column->dataBinding()->sortRole();
+        order.descending = state == SortDown;
+        order.localeAware = column->isSortLocaleAware();
+        order.locale = m_grid->locale();
+    }
+    m_area->rows().setSortOrder(order);
+    m_area->header()->update();
+    emit sortChanged();
+}
+
+int GridViewBase::focusRow() const
+{
+    const QModelIndex current = m_area->currentIndex();
+    return current.isValid() ? m_area->rows().order().rowAt(current.row()) : -1;
+}
+
+void GridViewBase::setFocusRow(int modelRow)
+{
+    m_area->rows().reveal(modelRow);
+    const int line = m_area->rows().order().lineOf(modelRow);
+    const int column = m_area->currentIndex().isValid() ? m_area->currentIndex().column() : -1;
+    const int slot = m_area->columns().slotOfModelColumn(column);
+    m_area->setCurrentCell(line, qMax(0, slot), QItemSelectionModel::ClearAndSelect);
+}
+
+QVector<int> GridViewBase::visibleRows() const
+{
+    QVector<int> rows;
+    const RowOrder &order = m_area->rows().order();
+    for (int line = 0; line < order.lineCount(); ++line)
+        if (order.rowAt(line) >= 0)
+            rows.append(order.rowAt(line));
+    return rows;
+}
+
+QVector<int> GridViewBase::selectedRows() const
+{
+    QVector<int> lines;
+    for (const QItemSelectionRange &range : m_area->selectionModel()->selection())
+        for (int line = range.top(); line <= range.bottom(); ++line)
+            lines.append(line);
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    QVector<int> rows;
+    for (int line : qAsConst(lines))
+        if (m_area->rows().order().rowAt(line) >= 0)
+            rows.append(m_area->rows().order().rowAt(line));
+    return rows;
+}
+
+void GridViewBase::deselectAll()
+{
+    m_area->clearSelection();
+}
+
+void GridViewBase::selectAll()
+{
+    m_area->selectAll();
+}
+
+void GridViewBase::expandAll()
+{
+    m_area->setAllGroupsOpen(true);
+}
+
+void GridViewBase::collapseAll()
+{
+    m_area->setAllGroupsOpen(false);
+}
+
+int GridViewBase::bestWidth(const GridColumn *column) const
+{
+    int width =
+        QFontMetrics(m_area->header()->captionFont()).horizontalAdvance(column->caption()) + captionRoom;
+    const int slot = m_area->columns().slotOf(column);
+    const int room = cellRoom + column->buttonCount() * 20;
+    for (int line = m_area->firstVisibleLine(); slot >= 0 && line >= 0 && line <= m_area->lastVisibleLine();
+         ++line)
+        if (!m_area->isGroupLine(line))
+            width = qMax(width, m_area->texts().whole(m_area->textOf(line, slot)).width + room);
+    return width;
+}
+
+QMimeData *GridViewBase::copySelection(bool withHeader) const
+{
+    return copiedSelection(*m_area, withHeader);
+}
+
+QStringList GridViewBase::headerPath(const GridColumn *column) const
+{
+    QStringList path;
+    for (const GridColumnBase *item = column; item; item = item->parentBand())
+        if (!item->caption().isEmpty())
+            path.prepend(item->caption());
+    return path;
+}
+
+void GridViewBase::showFindBar()
+{
+    m_area->showFindBar();
+}
+
+} // namespace Qtitan

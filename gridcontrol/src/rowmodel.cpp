@@ -1,0 +1,358 @@
+#include "rowmodel.h"
+
+#include "celltext.h"
+
+#include <numeric>
+
+namespace Qtitan {
+
+RowModel::RowModel(QObject *parent)
+    : QAbstractProxyModel(parent)
+{
+    // Values that change in a burst arrange the rows once.
+    m_rearrange.setSingleShot(true);
+    m_rearrange.setInterval(0);
+    connect(&m_rearrange, &QTimer::timeout, this, [this] { reorder([this] { rebuild(); }); });
+}
+
+void RowModel::setSource(QAbstractItemModel *source, const QModelIndex &root)
+{
+    beginResetModel();
+    if (sourceModel())
+        disconnect(sourceModel(), nullptr, this, nullptr);
+    setSourceModel(source);
+    m_root = root;
+    m_hasRoot = root.isValid();
+    m_sort = {};
+    m_groupColumns.clear();
+    m_filter = nullptr;
+    m_order = {};
+    if (source)
+        connectSource();
+    rebuild();
+    endResetModel();
+}
+
+void RowModel::connectSource()
+{
+    QAbstractItemModel *source = sourceModel();
+    const auto begin = [this] { beginResetModel(); };
+    const auto end = [this] {
+        rebuild();
+        endResetModel();
+        emit sourceColumnsChanged();
+    };
+    connect(source, &QAbstractItemModel::modelAboutToBeReset, this, begin);
+    connect(source, &QAbstractItemModel::modelReset, this, end);
+    connect(source, &QAbstractItemModel::layoutAboutToBeChanged, this, begin);
+    connect(source, &QAbstractItemModel::layoutChanged, this, end);
+    connect(source, &QAbstractItemModel::columnsAboutToBeInserted, this, begin);
+    connect(source, &QAbstractItemModel::columnsInserted, this, end);
+    connect(source, &QAbstractItemModel::columnsAboutToBeRemoved, this, begin);
+    connect(source, &QAbstractItemModel::columnsRemoved, this, end);
+    connect(source, &QAbstractItemModel::columnsAboutToBeMoved, this, begin);
+    connect(source, &QAbstractItemModel::columnsMoved, this, end);
+    connect(source, &QAbstractItemModel::rowsAboutToBeMoved, this, begin);
+    connect(source, &QAbstractItemModel::rowsMoved, this, end);
+    connect(source, &QObject::destroyed, this, [this] {
+        beginResetModel();
+        m_order.setPlain(0);
+        m_columns = 0;
+        endResetModel();
+        emit sourceColumnsChanged();
+    });
+    connect(source, &QAbstractItemModel::dataChanged, this, &RowModel::sourceDataChanged);
+    connect(source, &QAbstractItemModel::headerDataChanged, this,
+            [this](Qt::Orientation side, int first, int last) {
+                if (m_columns != sourceModel()->columnCount(m_root))
+                    resetFromSource();
+                else if (side == Qt::Horizontal && first <= last)
+                    emit headerDataChanged(side, qMax(first, 0), qMin(last, m_columns - 1));
+            });
+    connectRows();
+}
+
+void RowModel::connectRows()
+{
+    QAbstractItemModel *source = sourceModel();
+    connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this,
+            [this](const QModelIndex &parent, int first, int last) {
+                if (parent != m_root)
+                    return;
+                if (isArranged())
+                    beginResetModel();
+                else
+                    beginInsertRows(QModelIndex(), first, last);
+            });
+    connect(source, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &parent) {
+        if (parent != m_root)
+            return;
+        rebuild();
+        isArranged() ? endResetModel() : endInsertRows();
+    });
+    connect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex &parent, int first, int last) {
+                if (parent != m_root)
+                    return;
+                if (isArranged())
+                    beginResetModel();
+                else
+                    beginRemoveRows(QModelIndex(), first, last);
+            });
+    connect(source, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex &parent) {
+        if (parent != m_root)
+            return;
+        rebuild();
+        isArranged() ? endResetModel() : endRemoveRows();
+    });
+}
+
+void RowModel::resetFromSource()
+{
+    beginResetModel();
+    rebuild();
+    endResetModel();
+    emit sourceColumnsChanged();
+}
+
+bool RowModel::isArranged() const
+{
+    return m_sort.isActive() || !m_groupColumns.isEmpty() || m_filter;
+}
+
+void RowModel::rebuild()
+{
+    const QAbstractItemModel *source = sourceModel();
+    // The root went away with its rows.
+    const bool gone = !source || (m_hasRoot && !m_root.isValid());
+    const int rows = gone ? 0 : source->rowCount(m_root);
+    m_columns = gone ? 0 : source->columnCount(m_root);
+    if (!isArranged()) {
+        m_order.setPlain(rows);
+        return;
+    }
+    std::vector<int> ordered(static_cast<std::size_t>(rows));
+    std::iota(ordered.begin(), ordered.end(), 0);
+    if (m_filter)
+        ordered.erase(
+            std::remove_if(ordered.begin(), ordered.end(), [this](int row) { return !m_filter(row); }),
+            ordered.end());
+    if (rows > 0)
+        sortRows(ordered, *source, m_root, m_sort);
+    std::vector<GroupLevel> levels;
+    for (int column : qAsConst(m_groupColumns))
+        levels.push_back(groupLevel(column, ordered));
+    m_order.setOrdered(rows, std::move(ordered), levels);
+}
+
+GroupLevel RowModel::groupLevel(int column, const std::vector<int> &ordered) const
+{
+    GroupLevel level;
+    level.keyOfRow.assign(static_cast<std::size_t>(sourceModel()->rowCount(m_root)), 0);
+    QHash<QString, int> known;
+    const auto add = [&](int row) {
+        const QString key = displayText(sourceModel()->index(row, column, m_root).data(), QLocale());
+        auto place = known.constFind(key);
+        if (place == known.constEnd()) {
+            place = known.insert(key, level.keys.size());
+            level.keys.append(key);
+        }
+        level.keyOfRow[static_cast<std::size_t>(row)] = *place;
+    };
+    // Groups stand in the order in which the model brings them, unless the rows are sorted by their very
+    // column.
+    if (m_sort.column == column) {
+        for (int row : ordered)
+            add(row);
+    } else {
+        std::vector<bool> wanted(level.keyOfRow.size(), false);
+        for (int row : ordered)
+            wanted[static_cast<std::size_t>(row)] = true;
+        for (int row = 0; row < int(wanted.size()); ++row)
+            if (wanted[static_cast<std::size_t>(row)])
+                add(row);
+    }
+    return level;
+}
+
+void RowModel::reorder(const std::function<void()> &change)
+{
+    emit layoutAboutToBeChanged();
+    struct Place
+    {
+        int row;
+        QString group;
+    };
+    const QModelIndexList before = persistentIndexList();
+    QVector<Place> places;
+    places.reserve(before.size());
+    for (const QModelIndex &index : before) {
+        const RowGroup *group = m_order.groupAt(index.row());
+        places.append({m_order.rowAt(index.row()), group ? group->path : QString()});
+    }
+    change();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (int i = 0; i < before.size(); ++i) {
+        const Place &place = places.at(i);
+        const int line = place.row >= 0 ? m_order.lineOf(place.row) : m_order.lineOfGroup(place.group);
+        after.append(line >= 0 ? createIndex(line, before.at(i).column()) : QModelIndex());
+    }
+    changePersistentIndexList(before, after);
+    emit layoutChanged();
+}
+
+void RowModel::setSortOrder(const SortOrder &order)
+{
+    reorder([&] {
+        m_sort = order;
+        rebuild();
+    });
+}
+
+void RowModel::setGroupColumns(const QVector<int> &columns)
+{
+    if (columns == m_groupColumns)
+        return;
+    reorder([&] {
+        m_groupColumns = columns;
+        rebuild();
+    });
+}
+
+void RowModel::setRowFilter(const std::function<bool(int)> &accepts)
+{
+    reorder([&] {
+        m_filter = accepts;
+        rebuild();
+    });
+}
+
+void RowModel::setOpen(int line, bool open)
+{
+    const RowGroup *group = m_order.groupAt(line);
+    if (!group || group->open == open)
+        return;
+    RowOrder changed = m_order;
+    changed.setOpen(group->path, open);
+    const int difference = qAbs(changed.lineCount() - m_order.lineCount());
+    if (open)
+        beginInsertRows(QModelIndex(), line + 1, line + difference);
+    else
+        beginRemoveRows(QModelIndex(), line + 1, line + difference);
+    std::swap(m_order, changed);
+    open ? endInsertRows() : endRemoveRows();
+    emit dataChanged(index(line, 0), index(line, m_columns - 1));
+}
+
+void RowModel::setAllOpen(bool open)
+{
+    reorder([&] { m_order.setAllOpen(open); });
+}
+
+void RowModel::reveal(int modelRow)
+{
+    if (m_order.lineOf(modelRow) < 0)
+        reorder([&] { m_order.reveal(modelRow); });
+}
+
+void RowModel::sourceDataChanged(const QModelIndex &first, const QModelIndex &last, const QVector<int> &roles)
+{
+    // Some models exchange all their rows and only say that data changed.
+    if (sourceModel()->rowCount(m_root) != m_order.rowCount()) {
+        resetFromSource();
+        return;
+    }
+    if (first.parent() != m_root || !last.isValid() || rowCount() == 0)
+        return;
+    const bool sorts = m_sort.isActive() && first.column() <= m_sort.column &&
+                       m_sort.column <= last.column() && (roles.isEmpty() || roles.contains(m_sort.role));
+    const bool groups = !m_groupColumns.isEmpty() && (roles.isEmpty() || roles.contains(Qt::DisplayRole));
+    if (sorts || groups)
+        m_rearrange.start();
+    if (m_order.isPlain()) {
+        emit dataChanged(index(first.row(), first.column()), index(last.row(), last.column()), roles);
+    } else if (first.row() == last.row()) {
+        const int line = m_order.lineOf(first.row());
+        if (line >= 0)
+            emit dataChanged(index(line, first.column()), index(line, last.column()), roles);
+    } else {
+        emit dataChanged(index(0, first.column()), index(rowCount() - 1, last.column()), roles);
+    }
+}
+
+QModelIndex RowModel::sourceIndex(int line, int column) const
+{
+    const int row = m_order.rowAt(line);
+    return row >= 0 && sourceModel() ? sourceModel()->index(row, column, m_root) : QModelIndex();
+}
+
+QModelIndex RowModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (parent.isValid() || row < 0 || column < 0 || row >= rowCount() || column >= m_columns)
+        return QModelIndex();
+    return createIndex(row, column);
+}
+
+QModelIndex RowModel::parent(const QModelIndex &) const
+{
+    return QModelIndex();
+}
+
+QModelIndex RowModel::sibling(int row, int column, const QModelIndex &) const
+{
+    return index(row, column);
+}
+
+int RowModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_order.lineCount();
+}
+
+int RowModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_columns;
+}
+
+bool RowModel::hasChildren(const QModelIndex &parent) const
+{
+    return !parent.isValid() && rowCount() > 0 && m_columns > 0;
+}
+
+QVariant RowModel::data(const QModelIndex &index, int role) const
+{
+    if (const RowGroup *group = m_order.groupAt(index.row()))
+        return role == Qt::DisplayRole && index.column() == 0 ? QVariant(group->key) : QVariant();
+    const QModelIndex source = mapToSource(index);
+    return source.isValid() ? sourceModel()->data(source, role) : QVariant();
+}
+
+QVariant RowModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (!sourceModel() || orientation == Qt::Vertical)
+        return QVariant();
+    return sourceModel()->headerData(section, orientation, role);
+}
+
+Qt::ItemFlags RowModel::flags(const QModelIndex &index) const
+{
+    const QModelIndex source = mapToSource(index);
+    if (source.isValid())
+        return sourceModel()->flags(source);
+    return index.isValid() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
+                           : Qt::NoItemFlags;
+}
+
+QModelIndex RowModel::mapToSource(const QModelIndex &index) const
+{
+    return index.isValid() ? sourceIndex(index.row(), index.column()) : QModelIndex();
+}
+
+QModelIndex RowModel::mapFromSource(const QModelIndex &index) const
+{
+    if (!index.isValid() || index.parent() != m_root)
+        return QModelIndex();
+    return this->index(m_order.lineOf(index.row()), index.column());
+}
+
+} // namespace Qtitan

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QHash>
+#include <QStaticText>
+
+namespace Qtitan {
+
+/// Texts laid out once for one font.
+///
+/// Holds a bounded number of texts: when the newer half is full, what was not drawn since the last time falls
+/// out.
+class TextCache
+{
+public:
+    struct Entry
+    {
+        QStaticText text;
+        int width = 0;
+        bool elided = false;
+    };
+
+    explicit TextCache(const QFont &font = QFont());
+
+    /// Forgets everything when the font is another one.
+    void setFont(const QFont &font);
+    const QFont &font() const { return m_font; }
+    int textHeight() const { return m_height; }
+
+    /// \a text at its natural width.
+    Entry whole(const QString &text);
+
+    /// \a text, elided at its end where it is wider than \a width pixels.
+    Entry fitting(const QString &text, int width);
+
+private:
+    template <typename Key, typename Value> class Generations
+    {
+    public:
+        template <typename Make> Value value(const Key &key, Make make);
+        void clear();
+
+    private:
+        QHash<Key, Value> m_young;
+        QHash<Key, Value> m_old;
+    };
+
+    QFont m_font;
+    QFontMetricsF m_metrics;
+    int m_height;
+    Generations<QString, Entry> m_whole;
+    Generations<QPair<QString, int>, QString> m_elided;
+};
+
+} // namespace Qtitan
