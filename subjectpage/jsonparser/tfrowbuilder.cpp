@@ -4,7 +4,9 @@
 #include "mulittable/tfheaderdatastruct.h"
 #include "tfdatajsontable.h"
 
-#include <QJsonObject>
+#include <QCborArray>
+#include <QCborMap>
+#include <QJsonArray>
 
 #include <algorithm>
 #include <numeric>
@@ -35,41 +37,45 @@ bool isComputed(const HeaderFieldInfo &info)
     return !info.unboundExpression.isEmpty() && info.valueType.toLower() == DecimalType;
 }
 
-/// A raw row as it came.
+/// A raw row as it came. The map shares the JSON object's data and is cheaper to walk: its keys compare
+/// without being made into texts.
 struct JsonRow
 {
-    explicit JsonRow(const QJsonObject &object)
-        : object(object)
-    {}
-
-    bool hasKeys(const QStringList &keys) const
+    bool hasKeys(const TFRowBuilder::Keys &keys) const
     {
-        if (object.size() != keys.size())
+        if (map.size() != keys.raw.size())
             return false;
-        auto key = keys.begin();
-        for (auto it = object.begin(); it != object.end(); ++it, ++key) {
+        auto key = keys.raw.begin();
+        for (auto it = map.begin(); it != map.end(); ++it, ++key) {
             if (it.key() != *key)
                 return false;
         }
         return true;
     }
-    QStringList keys() const { return object.keys(); }
-    double number(int index) const { return (object.begin() + index).value().toVariant().toDouble(); }
+    TFRowBuilder::Keys keys() const
+    {
+        TFRowBuilder::Keys keys;
+        keys.raw = map.keys();
+        for (const QCborValue &key : qAsConst(keys.raw))
+            keys.names.append(key.toString());
+        return keys;
+    }
+    double number(int index) const { return (map.begin() + index).value().toVariant().toDouble(); }
     template <typename Take> void forEach(Take take) const
     {
         int index = 0;
-        for (auto it = object.begin(); it != object.end(); ++it)
+        for (auto it = map.begin(); it != map.end(); ++it)
             take(index++, it.value().toVariant());
     }
 
-    const QJsonObject object;
+    const QCborMap map;
 };
 
 /// A raw row that was set as a map.
 struct MapRow
 {
-    bool hasKeys(const QStringList &keys) const { return map.keys() == keys; }
-    QStringList keys() const { return map.keys(); }
+    bool hasKeys(const TFRowBuilder::Keys &keys) const { return map.keys() == keys.names; }
+    TFRowBuilder::Keys keys() const { return {map.keys(), {}}; }
     double number(int index) const { return std::next(map.begin(), index)->toDouble(); }
     template <typename Take> void forEach(Take take) const
     {
@@ -104,8 +110,9 @@ TFRowStore TFRowBuilder::build(const TFDataJsonTable &table)
     m_shapeOfKeys.clear();
     m_shape = -1;
     m_store.reserve(table.rowCount());
-    for (const QJsonValue &element : table.rowArray())
-        append(JsonRow(element.toObject()));
+    const QCborArray elements = QCborArray::fromJsonArray(table.rowArray());
+    for (const auto &element : elements)
+        append(JsonRow{element.toMap()});
     for (const QVariantMap &map : table.rowMaps())
         append(MapRow{map});
     return m_store;
@@ -127,22 +134,23 @@ template <typename Row> const TFRowBuilder::Shape &TFRowBuilder::shapeOf(const R
 {
     if (m_shape >= 0 && row.hasKeys(m_shapes[size_t(m_shape)].keys))
         return m_shapes[size_t(m_shape)];
-    const QStringList keys = row.keys();
-    const auto known = m_shapeOfKeys.constFind(keys);
+    const Keys keys = row.keys();
+    const auto known = m_shapeOfKeys.constFind(keys.names);
     if (known != m_shapeOfKeys.constEnd()) {
         m_shape = *known;
     } else {
         m_shape = int(m_shapes.size());
         m_shapes.push_back(makeShape(keys));
-        m_shapeOfKeys.insert(keys, m_shape);
+        m_shapeOfKeys.insert(keys.names, m_shape);
     }
     return m_shapes[size_t(m_shape)];
 }
 
-TFRowBuilder::Shape TFRowBuilder::makeShape(const QStringList &keys)
+TFRowBuilder::Shape TFRowBuilder::makeShape(const Keys &rowKeys)
 {
     Shape shape;
-    shape.keys = keys;
+    shape.keys = rowKeys;
+    const QStringList &keys = rowKeys.names;
     shape.sorted.resize(keys.size());
     std::iota(shape.sorted.begin(), shape.sorted.end(), 0);
     // JSON sorts by code point, a map by UTF-16 unit.
@@ -170,9 +178,9 @@ TFRowBuilder::Shape TFRowBuilder::makeShape(const QStringList &keys)
 
 void TFRowBuilder::addFurtherCells(Shape &shape, TFRowStore::Layout &layout)
 {
-    shape.cellOfKey.resize(shape.keys.size());
+    shape.cellOfKey.resize(shape.keys.names.size());
     for (const int key : qAsConst(shape.sorted)) {
-        const QString &name = shape.keys.at(key);
+        const QString &name = shape.keys.names.at(key);
         const int leaf = m_leafOfField.value(name, -1);
         shape.cellOfKey[key] = leaf >= 0 ? leaf : layout.cells.size();
         if (leaf >= 0)
@@ -187,8 +195,8 @@ void TFRowBuilder::addFurtherCells(Shape &shape, TFRowStore::Layout &layout)
 void TFRowBuilder::compute(const Shape &shape, QVariant *cells)
 {
     // All from the delivered values: a computed cell is no input of another one.
-    m_rawValues.resize(shape.keys.size());
-    for (int key = 0; key < shape.keys.size(); ++key)
+    m_rawValues.resize(shape.keys.names.size());
+    for (int key = 0; key < shape.keys.names.size(); ++key)
         m_rawValues[key] = cells[shape.cellOfKey.at(key)];
     for (size_t i = 0; i < m_computed.size(); ++i)
         cells[m_computed[i].cell] = computed(shape, int(i));
@@ -204,8 +212,8 @@ QVariant TFRowBuilder::computed(const Shape &shape, int column) const
         return expression.aggregate(numbers);
     }
     QVariantMap row;
-    for (int key = 0; key < shape.keys.size(); ++key)
-        row.insert(shape.keys.at(key), m_rawValues.at(key));
+    for (int key = 0; key < shape.keys.names.size(); ++key)
+        row.insert(shape.keys.names.at(key), m_rawValues.at(key));
     QVariant result;
     m_evaluator()->parse(expression.text(), result, row);
     return result;

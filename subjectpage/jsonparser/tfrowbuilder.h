@@ -3,6 +3,7 @@
 #include "records/tfrowstore.h"
 #include "tfunboundexpression.h"
 
+#include <QCborValue>
 #include <QHash>
 #include <QList>
 #include <QStringList>
@@ -12,8 +13,6 @@
 #include <vector>
 
 class ExpressionParse;
-class QJsonArray;
-class QJsonObject;
 class TFDataJsonTable;
 class TFTreeStruct;
 
@@ -26,6 +25,13 @@ public:
     using TypeOfField = std::function<QString(const QString &fieldName)>;
     /// The evaluator of formulas; asked for once a formula cell.
     using Evaluator = std::function<ExpressionParse *()>;
+
+    /// The keys of a raw row.
+    struct Keys
+    {
+        QStringList names;
+        QVector<QCborValue> raw; ///< the same as the row's own values; empty for a row set as a map
+    };
 
     TFRowBuilder(const QList<TFTreeStruct *> &leaves, TypeOfField typeOfField, Evaluator evaluator);
 
@@ -42,7 +48,7 @@ private:
     /// Where the values of a raw row with certain keys go.
     struct Shape
     {
-        QStringList keys;                ///< as the rows come
+        Keys keys;                       ///< as the rows come
         QVector<int> sorted;             ///< indices of the keys in the order of a map
         QVector<int> cellOfKey;          ///< the first cell of that field name
         QVector<QPair<int, int>> copies; ///< from the first cell to further ones of the same field name
@@ -53,7 +59,7 @@ private:
 
     template <typename Row> void append(const Row &row);
     template <typename Row> const Shape &shapeOf(const Row &row);
-    Shape makeShape(const QStringList &keys);
+    Shape makeShape(const Keys &rowKeys);
     void addFurtherCells(Shape &shape, TFRowStore::Layout &layout);
     void compute(const Shape &shape, QVariant *cells);
     QVariant computed(const Shape &shape, int column) const;

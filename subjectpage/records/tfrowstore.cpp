@@ -87,9 +87,9 @@ TFRowStore::Layout layoutOf(const RowData &row)
 {
     TFRowStore::Layout layout;
     layout.cells.reserve(row.size());
-    for (const Cell &cell : row) {
+    for (Cell cell : row) {
+        cell.value.clear();
         layout.cells.append(cell);
-        layout.cells.last().value = QVariant();
     }
     while (layout.securedCells < row.size() && row.at(layout.securedCells).secuId == row.first().secuId)
         ++layout.securedCells;

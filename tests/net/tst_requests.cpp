@@ -9,6 +9,8 @@
 
 #include <random>
 
+Q_DECLARE_METATYPE(TFUc::TFRequestContent)
+
 namespace {
 QString written(const QJsonObject &object)
 {
@@ -290,8 +292,6 @@ void TestRequests::navigationNeedsRows()
     QCOMPARE(debugLines(), QStringList("parseSubjectTree:array is empty"));
     QVERIFY(rows.isEmpty());
 }
-
-Q_DECLARE_METATYPE(TFUc::TFRequestContent)
 
 SUBJECT_TEST_MAIN(TestRequests)
 #include "tst_requests.moc"
