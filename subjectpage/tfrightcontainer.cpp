@@ -69,7 +69,6 @@ void TFRightContainer::createLayout()
     addWidget(frame);
     addWidget(m_tabs);
     m_tabs->hide();
-    m_tabs->setDocumentMode(true);
     m_corner->setCheckable(true);
     m_corner->setToolTip(tr("折叠或展开"));
     m_corner->setAccessibleName(m_corner->toolTip());
