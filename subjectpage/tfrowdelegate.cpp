@@ -42,8 +42,9 @@ bool TFRowDelegate::isOpen(const QModelIndex &index) const
 void TFRowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    // Bold and no less: only for that does a face without a bold cut get one.
     if (isOpen(index))
-        option->font.setWeight(QFont::DemiBold);
+        option->font.setBold(true);
 }
 
 void TFRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
