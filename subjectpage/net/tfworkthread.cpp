@@ -5,9 +5,12 @@
 #include "tfcore/tfappconfig.h"
 #include "tfcore/tfrequestlog.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 
 namespace {
+constexpr char Canceled[] = "Operation canceled";
+
 void report(const TFRequestRecord &sent, const TFWXRSHttp::HttpResult &result, qint64 milliseconds)
 {
     TFRequestRecord record = sent;
@@ -33,8 +36,15 @@ TFWorkRunnable::TFWorkRunnable(const TFUc::TFRequestContent &content)
     , m_spare(content.spare)
     , m_headers(content.headers)
     , m_startTime(QTime::currentTime())
+    , m_quitting(std::make_shared<std::atomic_bool>(false))
     , m_carrier(new TFSigConnec)
-{}
+{
+    if (QCoreApplication::instance()) {
+        QObject::connect(
+            QCoreApplication::instance(), &QCoreApplication::aboutToQuit, m_carrier,
+            [quitting = m_quitting] { *quitting = true; }, Qt::DirectConnection);
+    }
+}
 
 TFWorkRunnable::~TFWorkRunnable()
 {
@@ -52,7 +62,8 @@ void TFWorkRunnable::run()
     record.body = m_body;
     QElapsedTimer timer;
     timer.start();
-    const TFWXRSHttp::HttpResult result = TFWXRSHttp::post(m_url, m_body, headers);
+    const TFWXRSHttp::HttpResult result = *m_quitting ? TFWXRSHttp::HttpResult{false, Canceled, QVariant()}
+                                                      : TFWXRSHttp::post(m_url, m_body, headers);
     report(record, result, timer.elapsed());
     qCDebug(lcNet) << "response---" << m_url << m_body << " end \n";
     m_carrier->emitResult(result.ok, result.data);

@@ -7,6 +7,8 @@
 #include <QRunnable>
 #include <QTime>
 
+#include <atomic>
+#include <memory>
 #include <utility>
 
 /// Carries the result of one request from a pool thread to the thread on which it was made.
@@ -28,7 +30,8 @@ public:
     ~TFWorkRunnable() override;
     Q_DISABLE_COPY(TFWorkRunnable)
 
-    /// Posts the request, blocking, and emits the result through the carrier.
+    /// Posts the request, blocking, and emits the result through the carrier. A request whose turn comes only
+    /// when the application has begun to quit fails at once.
     void run() override;
 
 protected:
@@ -41,6 +44,7 @@ private:
     QString m_spare;
     QList<QPair<QByteArray, QByteArray>> m_headers;
     QTime m_startTime;
+    std::shared_ptr<std::atomic_bool> m_quitting;
     TFSigConnec *m_carrier; ///< lives on the thread of the constructor; deleted there after the result
 };
 
