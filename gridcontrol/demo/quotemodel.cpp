@@ -38,7 +38,7 @@ double QuoteModel::figure(int row, int column) const
     seed *= 2246822519U;
     seed ^= seed >> 13;
     const double share = seed / 4294967296.0;
-    return column % 3 == 2 ? (share - 0.5) * 20 : share * 250000;
+    return column % 3 == 0 ? (share - 0.5) * 20 : share * 250000;
 }
 
 QString QuoteModel::text(int row, int column) const
@@ -68,7 +68,7 @@ QVariant QuoteModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole:
         return int((isFigure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ForegroundRole:
-        if (isFigure && index.column() % 3 == 2)
+        if (isFigure && index.column() % 3 == 0)
             return figure(index.row(), index.column()) < 0 ? QColor(0x0B8A4B) : QColor(0xD6293E);
         return QVariant();
     case valueRole:

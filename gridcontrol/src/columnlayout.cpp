@@ -3,6 +3,7 @@
 #include <gridcontrol/gridband.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace Qtitan {
 
@@ -27,6 +28,17 @@ const GridTableBand *topBand(const GridColumn *column)
         if (!band->caption().isEmpty())
             top = band;
     return top;
+}
+
+void shareWidth(const QVector<GridColumn *> &columns, const QVector<int> &weights, int total)
+{
+    int left = std::accumulate(weights.begin(), weights.end(), 0);
+    // Each column takes its share of what is still to give, so that the rounding never adds up.
+    for (int i = 0; i < columns.size(); ++i) {
+        columns.at(i)->setWidth(left > 0 ? qRound(double(total) * weights.at(i) / left) : total);
+        total -= columns.at(i)->width();
+        left -= weights.at(i);
+    }
 }
 
 void ColumnLayout::build(const QVector<GridColumn *> &shown, int viewportWidth)

@@ -53,6 +53,10 @@ private:
     int m_fixedCount = 0;
 };
 
+/// Gives \a columns widths in the proportion of \a weights that add up to \a total, as far as the least width
+/// allows.
+void shareWidth(const QVector<GridColumn *> &columns, const QVector<int> &weights, int total);
+
 /// The topmost band over \a column that has a caption; null if there is none.
 const GridTableBand *topBand(const GridColumn *column);
 

@@ -2,6 +2,8 @@
 
 #include <gridcontrol/gridbandedview.h>
 
+#include "columnlayout.h"
+
 namespace Qtitan {
 
 GridTableBand::GridTableBand(GridViewBase *view, int index)
@@ -56,15 +58,10 @@ int GridTableBand::width() const
 void GridTableBand::setWidth(int pixels)
 {
     const QVector<GridColumn *> below = columns();
-    int left = width();
-    int wanted = pixels;
-    // Each column takes its share of what is still to give, so that the rounding never adds up.
-    for (GridColumn *column : below) {
-        const int old = column->width();
-        column->setWidth(left > 0 ? qRound(double(wanted) * old / left) : wanted);
-        wanted -= column->width();
-        left -= old;
-    }
+    QVector<int> widths;
+    for (const GridColumn *column : below)
+        widths.append(column->width());
+    shareWidth(below, widths, pixels);
 }
 
 } // namespace Qtitan

@@ -23,6 +23,7 @@ GridFindBar::GridFindBar(GridArea *area, QWidget *parent)
     , m_filter(new QCheckBox(GridBase::tr("只显示匹配行")))
 {
     setObjectName(QStringLiteral("gridFindBar"));
+    m_filter->setObjectName(QStringLiteral("gridFindFilter"));
     const auto button = [this](Qt::ArrowType arrow, int step, const QString &tip) {
         auto *made = new QToolButton;
         made->setArrowType(arrow);

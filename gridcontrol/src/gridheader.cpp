@@ -13,6 +13,8 @@
 #include <QScrollBar>
 #include <QToolTip>
 
+#include <numeric>
+
 namespace Qtitan {
 
 namespace {
@@ -232,12 +234,24 @@ void GridHeader::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_pressedAt = event->pos();
-    m_dragged = edgeAt(event->pos());
+    startDrag(event->pos());
+}
+
+void GridHeader::startDrag(const QPoint &point)
+{
+    m_pressedAt = point;
+    m_dragged = edgeAt(point);
     m_drag = m_dragged ? Resizing : Pressed;
-    if (!m_dragged)
-        m_dragged = columnAt(event->pos());
-    m_startWidth = m_dragged ? m_dragged->width() : 0;
+    m_resized.clear();
+    m_startWidths.clear();
+    if (const auto *band = qobject_cast<GridTableBand *>(m_dragged))
+        m_resized = band->columns();
+    else if (GridColumn *column = asColumn(m_dragged))
+        m_resized.append(column);
+    else
+        m_dragged = columnAt(point);
+    for (const GridColumn *column : qAsConst(m_resized))
+        m_startWidths.append(column->width());
 }
 
 void GridHeader::mouseMoveEvent(QMouseEvent *event)
@@ -247,7 +261,9 @@ void GridHeader::mouseMoveEvent(QMouseEvent *event)
         setCursor(edgeAt(event->pos()) ? Qt::SplitHCursor : Qt::ArrowCursor);
         break;
     case Resizing:
-        m_dragged->setWidth(m_startWidth + event->pos().x() - m_pressedAt.x());
+        shareWidth(
+            m_resized, m_startWidths,
+            std::accumulate(m_startWidths.begin(), m_startWidths.end(), event->pos().x() - m_pressedAt.x()));
         break;
     case Pressed:
         if (asColumn(m_dragged) &&

@@ -62,6 +62,7 @@ private:
     void paintCell(QPainter &painter, const HeaderCell &cell, const QRect &rect, qreal pixel);
     void paintEdges(QPainter &painter, const HeaderCell &cell, const QRect &rect, qreal pixel) const;
     void paintArrow(QPainter &painter, const QRectF &rect, bool up) const;
+    void startDrag(const QPoint &point);
     void updateDropPlace(const QPoint &point);
     void finishMove();
 
@@ -70,7 +71,8 @@ private:
     Drag m_drag = NoDrag;
     QPoint m_pressedAt;
     GridColumnBase *m_dragged = nullptr;
-    int m_startWidth = 0;
+    QVector<GridColumn *> m_resized;
+    QVector<int> m_startWidths;
     int m_dropX = -1;
     GridColumn *m_dropBefore = nullptr;
     bool m_dropAllowed = false;

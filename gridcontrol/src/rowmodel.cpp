@@ -56,6 +56,9 @@ void RowModel::connectSource()
     connect(source, &QAbstractItemModel::rowsMoved, this, end);
     connect(source, &QObject::destroyed, this, [this] {
         beginResetModel();
+        m_sort = {};
+        m_groupColumns.clear();
+        m_filter = nullptr;
         m_order.setPlain(0);
         m_columns = 0;
         endResetModel();
@@ -127,7 +130,7 @@ void RowModel::rebuild()
     const bool gone = !source || (m_hasRoot && !m_root.isValid());
     const int rows = gone ? 0 : source->rowCount(m_root);
     m_columns = gone ? 0 : source->columnCount(m_root);
-    if (!isArranged()) {
+    if (gone || !isArranged()) {
         m_order.setPlain(rows);
         return;
     }
