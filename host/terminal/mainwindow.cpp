@@ -110,7 +110,7 @@ void MainWindow::openHome()
 {
     const QUrl home = m_factory->homeUrl();
     if (home.isEmpty())
-        m_notice->tell(tr("No plug-in has a home page."));
+        m_notice->tell(NoticeBar::Page, tr("No plug-in has a home page."));
     else
         m_tabs->open(home);
 }
@@ -119,11 +119,12 @@ void MainWindow::openStringUrl(QString url)
 {
     if (url.isEmpty())
         return;
+    m_notice->tell(NoticeBar::Page, QString());
     const QUrl address(url);
     if (PageFactory::isPageUrl(address))
         m_tabs->open(address);
     else if (!QDesktopServices::openUrl(QUrl::fromUserInput(url)))
-        m_notice->tell(tr("Nothing on this computer opens %1").arg(url));
+        m_notice->tell(NoticeBar::Page, tr("Nothing on this computer opens %1").arg(url));
 }
 
 void MainWindow::redraw()

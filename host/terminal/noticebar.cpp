@@ -27,20 +27,38 @@ NoticeBar::NoticeBar(QWidget *parent)
     layout->addWidget(m_text, 1);
     layout->addWidget(m_action);
     layout->addWidget(close);
-    connect(m_action, &QPushButton::clicked, this, &NoticeBar::actionTriggered);
-    connect(close, &QToolButton::clicked, this, &QWidget::hide);
-    hide();
+    connect(m_action, &QPushButton::clicked, this, &NoticeBar::serviceActionTriggered);
+    connect(close, &QToolButton::clicked, this, [this] {
+        m_lines.fill(QString());
+        refresh();
+    });
+    refresh();
 }
 
-void NoticeBar::tell(const QString &text, const QString &action)
+void NoticeBar::tell(Subject subject, const QString &text)
 {
-    m_text->setText(text);
-    m_action->setText(action);
-    m_action->setVisible(!action.isEmpty());
-    setVisible(!text.isEmpty());
+    m_lines[subject] = text;
+    refresh();
+}
+
+void NoticeBar::setServiceAction(const QString &text)
+{
+    m_action->setText(text);
 }
 
 QString NoticeBar::text() const
 {
     return m_text->text();
+}
+
+void NoticeBar::refresh()
+{
+    QStringList lines;
+    for (const QString &line : m_lines) {
+        if (!line.isEmpty())
+            lines.append(line);
+    }
+    m_text->setText(lines.join('\n'));
+    m_action->setVisible(!m_lines[Service].isEmpty());
+    setVisible(!lines.isEmpty());
 }

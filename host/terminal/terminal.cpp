@@ -104,7 +104,7 @@ void Terminal::connectWindow()
     connect(&window->actions(), &MainActions::skinChosen, this, &Terminal::setSkin);
     connect(&window->actions(), &MainActions::languageChosen, this, &Terminal::setLanguage);
     connect(window->actions().service, &QAction::triggered, this, &Terminal::askEndpoint);
-    connect(&window->notice(), &NoticeBar::actionTriggered, this, &Terminal::startService);
+    connect(&window->notice(), &NoticeBar::serviceActionTriggered, this, &Terminal::startService);
     connect(window, &MainWindow::closing, this, &Terminal::shutdown);
     connect(TFCore::instance(), &TFCore::signalSkinChanged, window, &MainWindow::redraw);
     connect(TFRequestLog::instance(), &TFRequestLog::finished, &window->activity(),
@@ -129,9 +129,10 @@ void Terminal::loadPlugins()
     m_window->activity().showPlugins(*m_plugins);
     const QStringList faults = m_plugins->faults();
     if (!faults.isEmpty())
-        m_window->notice().tell(tr("Not all plug-ins work. %1").arg(faults.join("; ")));
+        m_window->notice().tell(NoticeBar::Plugins, tr("Not all plug-ins work. %1").arg(faults.join("; ")));
     else if (m_plugins->plugins().empty())
-        m_window->notice().tell(tr("No plug-in was found in %1").arg(m_plugins->folders().join(", ")));
+        m_window->notice().tell(NoticeBar::Plugins,
+                                tr("No plug-in was found in %1").arg(m_plugins->folders().join(", ")));
     fillTopics();
     m_pluginsLoaded = true;
     openFirstPages();
@@ -160,7 +161,7 @@ void Terminal::useEndpoint(const Endpoint &endpoint)
 void Terminal::startService()
 {
     m_serviceKnown = false;
-    m_window->notice().tell(QString());
+    m_window->notice().tell(NoticeBar::Service, QString());
     m_window->tabs().setHint(tr("Starting the data service..."));
     m_service->start({ProgramFolders::serviceProgram(),
                       orElse(m_options.database, ProgramFolders::database()),
@@ -181,7 +182,8 @@ void Terminal::useService(const QUrl &address)
 void Terminal::serviceFailed(const QString &reason)
 {
     m_window->tabs().setHint(tr("There is no data service: %1").arg(reason));
-    m_window->notice().tell(tr("There is no data service: %1").arg(reason), tr("Try again"));
+    m_window->notice().setServiceAction(tr("Try again"));
+    m_window->notice().tell(NoticeBar::Service, tr("There is no data service: %1").arg(reason));
     if (!isInteractive())
         QTimer::singleShot(0, this, [this] { writeScreenshot(true); });
 }
@@ -237,7 +239,8 @@ void Terminal::writeScreenshot(bool settled)
     if (!settled)
         qCWarning(lcTerminal) << "the page did not come to rest in time";
     shutdown();
-    QCoreApplication::exit(!written || !m_serviceKnown ? NotShown : settled ? Shown : TimedOut);
+    const bool shown = written && m_window->tabs().count() > 0;
+    QCoreApplication::exit(!shown ? NotShown : settled ? Shown : TimedOut);
 }
 
 void Terminal::shutdown()
