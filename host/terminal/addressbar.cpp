@@ -20,7 +20,6 @@ AddressBar::AddressBar(const MainActions &actions, QAction *panelAction, QWidget
     setIconSize({16, 16});
     setContextMenuPolicy(Qt::PreventContextMenu);
     m_line->setObjectName("AddressLine");
-    m_line->setClearButtonEnabled(true);
     m_skin->setObjectName("SkinButton");
     m_skin->setPopupMode(QToolButton::InstantPopup);
     auto *skinMenu = new QMenu(m_skin);

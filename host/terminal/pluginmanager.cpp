@@ -27,7 +27,9 @@ PluginManager::~PluginManager()
 
 void PluginManager::load(const QStringList &folders)
 {
-    m_folders = folders;
+    for (const QString &folder : folders)
+        m_folders.append(QDir(folder).absolutePath());
+    m_folders.removeDuplicates();
     find();
     resolve();
     for (int index : m_order)

@@ -24,17 +24,19 @@ QString firstPresent(const QStringList &paths)
 
 QStringList ProgramFolders::plugins()
 {
-    return {beside("plugins"), beside("../" TERMINAL_LIBDIR "/subjectpage/plugins")};
+    return {beside("plugins"), beside("../bin/plugins"),
+            beside("../" TERMINAL_LIBDIR "/subjectpage/plugins")};
 }
 
 QString ProgramFolders::skins()
 {
-    return firstPresent({"skins", "../share/subjectpage/skins"});
+    return firstPresent({"skins", "../bin/skins", "../share/subjectpage/skins"});
 }
 
 QString ProgramFolders::serviceProgram()
 {
-    return beside("subject-service");
+    const QString found = firstPresent({"subject-service", "../bin/subject-service"});
+    return found.isEmpty() ? beside("subject-service") : found;
 }
 
 QString ProgramFolders::database()

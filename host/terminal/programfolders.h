@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Where the parts of the terminal lie, in the build folder as well as installed.
+/// Where the parts of the terminal lie: in the build folder, seen from the programs and from the tests, as well
+/// as installed.
 namespace ProgramFolders {
 
 /// Folders that plug-ins are looked for in.

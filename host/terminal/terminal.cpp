@@ -26,6 +26,13 @@
 #include <QThreadPool>
 #include <QTimer>
 
+/// A library's resources are not linked unless something asks for them.
+static void initResources()
+{
+    Q_INIT_RESOURCE(terminal);
+    Q_INIT_RESOURCE(catalogues);
+}
+
 namespace {
 const char ServiceKey[] = "servercfg.ini:Subject";
 constexpr int ScreenshotTimeoutMs = 60000;
@@ -60,7 +67,9 @@ Terminal::Terminal(const Options &options, QObject *parent)
     , m_plugins(std::make_unique<PluginManager>())
     , m_factory(std::make_unique<PageFactory>(m_plugins.get()))
     , m_service(std::make_unique<ServiceProcess>())
-{}
+{
+    initResources();
+}
 
 Terminal::~Terminal() = default;
 

@@ -1,0 +1,119 @@
+#include "demodata.h"
+
+#include "subjecttest.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+namespace {
+const char Program[] = PROJECT_BINARY_DIR "/bin/subject-terminal";
+constexpr int PatienceMs = 60000;
+
+bool listens(quint16 port)
+{
+    QTcpSocket socket;
+    socket.connectToHost("127.0.0.1", port);
+    return socket.waitForConnected(1000);
+}
+} // namespace
+
+/// The program as a user starts it.
+class TerminalProgramTest : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void helpNeedsNoDisplay()
+    {
+        QProcess program;
+        QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+        bare.insert("QT_QPA_PLATFORM", "xcb");
+        bare.remove("DISPLAY");
+        program.setProcessEnvironment(bare);
+        program.start(Program, {"--help"});
+        QVERIFY(program.waitForFinished(PatienceMs));
+        QCOMPARE(program.exitCode(), 0);
+        QVERIFY(program.readAllStandardOutput().contains("--screenshot"));
+    }
+
+    void wrongOptionIsNamedAndNothingStarts()
+    {
+        QProcess program;
+        program.start(Program, {"--colour"});
+        QVERIFY(program.waitForFinished(PatienceMs));
+        QCOMPARE(program.exitCode(), 2);
+        QVERIFY(program.readAllStandardError().contains("colour"));
+    }
+
+    void screenshotShowsTheHomePage()
+    {
+        if (!DemoData::isThere())
+            QSKIP("the demonstration database is not built: tools/demo-data makes it");
+        QTemporaryDir folder;
+        const QString file = folder.filePath("start.png");
+        QProcess program;
+        start(&program, folder.path(), {"--screenshot", file, "--size", "1200x800"});
+        QVERIFY(program.waitForFinished(PatienceMs));
+
+        QVERIFY2(program.exitCode() == 0, program.readAllStandardError());
+        const QImage picture(file);
+        QCOMPARE(picture.size(), QSize(1200, 800));
+        QSet<QRgb> colors;
+        for (int x = 0; x < picture.width(); ++x)
+            colors.insert(picture.pixel(x, 400));
+        QVERIFY2(colors.size() > 10, "a row through the middle of the page is nearly empty");
+    }
+
+    void screenshotThatCannotBeWrittenFails()
+    {
+        QTemporaryDir folder;
+        QProcess program;
+        start(&program, folder.path(),
+              {"--service", "http://127.0.0.1:1", "--screenshot", "/no/such/folder/a.png"});
+        QVERIFY(program.waitForFinished(PatienceMs));
+        QCOMPARE(program.exitCode(), 1);
+        QVERIFY(program.readAllStandardError().contains("/no/such/folder/a.png"));
+    }
+
+    void serviceEndsWhenTheTerminalIsKilled()
+    {
+        if (!DemoData::isThere())
+            QSKIP("the demonstration database is not built: tools/demo-data makes it");
+        QTemporaryDir folder;
+        QProcess program;
+        start(&program, folder.path(), {"--verbose"});
+        static const QRegularExpression pattern("listening on http://127\\.0\\.0\\.1:(\\d+)");
+        QByteArray output;
+        QRegularExpressionMatch match;
+        while (!match.hasMatch() && program.waitForReadyRead(PatienceMs)) {
+            output += program.readAllStandardError();
+            match = pattern.match(QString::fromUtf8(output));
+        }
+        QVERIFY2(match.hasMatch(), output);
+        const quint16 port = quint16(match.captured(1).toUInt());
+        QVERIFY(listens(port));
+
+        ::kill(pid_t(program.processId()), SIGKILL);
+
+        QVERIFY(program.waitForFinished());
+        QTRY_VERIFY(!listens(port));
+    }
+
+private:
+    static void start(QProcess *program, const QString &config, const QStringList &arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", config);
+        program->setProcessEnvironment(environment);
+        program->setReadChannel(QProcess::StandardError);
+        program->start(Program,
+                       QStringList{"--db", DemoData::database(), "--views", DemoData::views()} + arguments);
+    }
+};
+
+SUBJECT_TEST_MAIN(TerminalProgramTest)
+#include "tst_terminalprogram.moc"
