@@ -1,8 +1,10 @@
 #include "activitymodels.h"
 
+#include <QGuiApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocale>
+#include <QPalette>
 
 namespace {
 constexpr size_t KeptRows = 1000;
@@ -88,6 +90,8 @@ QVariant RequestModel::data(const QModelIndex &index, int role) const
         return text(record, index.column());
     if (role == Qt::TextAlignmentRole && index.column() >= BytesColumn)
         return int(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::ForegroundRole && !record.ok && index.column() == StatusColumn)
+        return QGuiApplication::palette().brush(QPalette::BrightText);
     if (role == Qt::ToolTipRole && index.column() == StatusColumn)
         return record.error;
     return {};

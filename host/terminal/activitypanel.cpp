@@ -62,6 +62,9 @@ ActivityPanel::ActivityPanel(QWidget *parent)
     setWidget(m_tabs);
     setWidths(m_requestTable->horizontalHeader(), {96, 150, 300, 260, 80, 64});
     setWidths(m_messageTable->horizontalHeader(), {96, 120, 700, 160});
+    m_requestTable->horizontalHeader()->setSectionResizeMode(RequestModel::StatusColumn,
+                                                             QHeaderView::Stretch);
+    m_messageTable->horizontalHeader()->setSectionResizeMode(MessageModel::TextColumn, QHeaderView::Stretch);
     setWidths(m_plugins->header(), {140, 72, 96, 420, 420});
     retranslate();
 }

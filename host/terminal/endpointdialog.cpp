@@ -37,6 +37,8 @@ EndpointDialog::EndpointDialog(const Endpoint &endpoint, QWidget *parent)
     m_fault->setObjectName("EndpointFault");
     m_service->setPlaceholderText("https://data.example.com:8443");
     m_token->setEchoMode(QLineEdit::PasswordEchoOnEdit);
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
     (endpoint.isLocal() ? m_local : m_remote)->setChecked(true);
 
     auto *form = new QFormLayout(this);

@@ -93,6 +93,104 @@
         <source>An address looks like http://server:8080</source>
         <translation>An address looks like http://server:8080</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>What happened</translation>
+    </message>
+    <message>
+        <source>Requests</source>
+        <translation>Requests</translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnings</translation>
+    </message>
+    <message>
+        <source>Plug-ins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Pick a request to see what it asked</source>
+        <translation>Pick a request to see what it asked</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+</context>
+<context>
+    <name>AddressBar</name>
+    <message>
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>Address of a page, view://...</source>
+        <translation>Address of a page, view://...</translation>
+    </message>
+    <message>
+        <source>Skin</source>
+        <translation>Skin</translation>
+    </message>
+</context>
+<context>
+    <name>EndpointDialog</name>
+    <message>
+        <source>Demonstration data on this computer</source>
+        <translation>Demonstration data on this computer</translation>
+    </message>
+    <message>
+        <source>Data service at</source>
+        <translation>Data service at</translation>
+    </message>
+    <message>
+        <source>Data service</source>
+        <translation>Data service</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Product</translation>
+    </message>
+    <message>
+        <source>Access token</source>
+        <translation>Access token</translation>
+    </message>
+    <message>
+        <source>An address looks like http://server:8080</source>
+        <translation>An address looks like http://server:8080</translation>
+    </message>
+    <message>
+        <source>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>MainActions</name>

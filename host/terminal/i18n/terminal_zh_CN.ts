@@ -93,6 +93,14 @@
         <source>An address looks like http://server:8080</source>
         <translation>地址形如 http://server:8080</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>MainActions</name>
