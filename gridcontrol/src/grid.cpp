@@ -120,8 +120,10 @@ GridColors Grid::colors() const
 
 void Grid::paintEvent(QPaintEvent *)
 {
+    const QRect inner = layout()->contentsRect();
     QPainter painter(this);
-    painter.fillRect(rect(), rootView()->area()->colors().strongLine);
+    for (const QRect &side : QRegion(rect()) - inner)
+        painter.fillRect(side, rootView()->area()->colors().strongLine);
 }
 
 } // namespace Qtitan

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QToolButton>
 
 namespace Qtitan {
@@ -85,6 +86,13 @@ void GridFindBar::keyPressEvent(QKeyEvent *event)
         find(event->modifiers() & Qt::ShiftModifier ? -1 : 1, false);
     else
         QWidget::keyPressEvent(event);
+}
+
+void GridFindBar::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), m_area->colors().headerBackground);
+    painter.fillRect(QRectF(0, 0, width(), 1.0 / devicePixelRatioF()), m_area->colors().strongLine);
 }
 
 void GridFindBar::textChanged()

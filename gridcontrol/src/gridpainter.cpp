@@ -191,10 +191,12 @@ void GridPainter::paintGroup(const RowGroup &group, const Line &line)
     m_painter.fillRect(QRectF(0, rect.bottom() + 1 - m_pixel, rect.width(), m_pixel),
                        own(QPalette::Shadow, colors.line));
 
+    const QColor key = line.selected ? colors.selectionText : own(QPalette::BrightText, colors.text);
+    const QColor quiet = mixed(key, background, 0.35);
     const int indent = 8 + group.level * 16;
     const QPointF middle(indent + 4, rect.center().y() + 0.5);
     m_painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.setPen(QPen(line.selected ? colors.selectionText : colors.muted, 1.5));
+    m_painter.setPen(QPen(quiet, 1.5));
     m_painter.setBrush(Qt::NoBrush);
     const QPointF open[] = {middle + QPointF(-4, -2), middle + QPointF(0, 2), middle + QPointF(4, -2)};
     const QPointF closed[] = {middle + QPointF(-2, -4), middle + QPointF(2, 0), middle + QPointF(-2, 4)};
@@ -203,9 +205,9 @@ void GridPainter::paintGroup(const RowGroup &group, const Line &line)
 
     const QRect textRect = rect.adjusted(indent + 16, 0, -8, -1);
     const int width = m_area.texts().fitting(group.key, textRect.width()).width;
-    m_painter.setPen(line.selected ? colors.selectionText : own(QPalette::BrightText, colors.text));
+    m_painter.setPen(key);
     drawText(textRect, group.key, Qt::AlignLeft);
-    m_painter.setPen(line.selected ? colors.selectionText : colors.muted);
+    m_painter.setPen(quiet);
     drawText(textRect.adjusted(width + 8, 0, 0, 0), QStringLiteral("(%1)").arg(group.count()), Qt::AlignLeft);
 }
 
@@ -330,7 +332,9 @@ void GridPainter::paintButton(const GridCellButton &button, const QRect &rect, b
 void GridPainter::paintFocus()
 {
     const QModelIndex current = m_area.currentIndex();
-    if (!m_area.hasFocus() || !current.isValid() || m_area.columns().count() == 0)
+    // While the find bar has the keyboard, the frame tells which of the marked cells is the current one.
+    const bool framed = m_area.hasFocus() || !m_area.markedText().isEmpty();
+    if (!framed || !current.isValid() || m_area.columns().count() == 0)
         return;
     QRect cell = m_area.visualRect(current);
     bool fixed = false;

@@ -43,8 +43,6 @@ void RowOrder::setOrdered(int rows, std::vector<int> ordered, const std::vector<
     if (!levels.empty())
         makeGroups(0, 0, int(m_ordered.size()), QString(), levels);
     makeLines();
-    if (levels.empty())
-        m_ordered = {};
 }
 
 void RowOrder::makeGroups(int level, int begin, int end, const QString &path,
@@ -70,7 +68,8 @@ void RowOrder::makeLines()
 {
     m_lineOfRow.assign(std::size_t(m_rows), -1);
     if (m_groups.empty()) {
-        m_lines = m_ordered;
+        m_lines = std::move(m_ordered);
+        m_ordered = {};
     } else {
         m_lines.clear();
         for (std::size_t i = 0; i < m_groups.size();) {

@@ -65,7 +65,7 @@ private:
 /// | hoverColor | row under the pointer |
 /// | selectionColor, selectionText | selected rows |
 /// | linkColor | link cells |
-/// | mutedColor | counts of groups, empty table, cell buttons |
+/// | mutedColor | empty table, cell buttons |
 /// | accentColor | sort arrow, matches of the find bar |
 /// | focusColor | frame of the focused cell |
 /// | panelColor, textColor | rows and their text, where the palette is not to decide |
