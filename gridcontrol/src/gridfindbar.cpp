@@ -43,7 +43,6 @@ GridFindBar::GridFindBar(GridArea *area, QWidget *parent)
     box->setContentsMargins(8, 3, 4, 3);
     box->setSpacing(4);
     m_edit->setPlaceholderText(GridBase::tr("查找"));
-    m_edit->setClearButtonEnabled(true);
     m_edit->setMaximumWidth(240);
     box->addWidget(m_edit, 1);
     box->addWidget(button(Qt::UpArrow, -1, GridBase::tr("上一个")));
