@@ -9,12 +9,16 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QSvgRenderer>
+
+#include <memory>
 
 namespace {
 constexpr int FontPixels = 12;
 constexpr int IconPixels = 16;
+const char BaseStyle[] = "Fusion";
 const char SheetFile[] = "terminal.css";
 const char InkInIcons[] = "#000000";
 
@@ -62,7 +66,7 @@ Look::Look(QObject *parent)
 
 void Look::prepare(QApplication *application)
 {
-    application->setStyle(QStyleFactory::create("Fusion"));
+    application->setStyle(QStyleFactory::create(BaseStyle));
     application->setFont(terminalFont());
     connect(TFCore::instance(), &TFCore::signalSkinChanged, this, &Look::apply);
 }
@@ -83,7 +87,8 @@ bool Look::setSkin(const QString &skin)
 void Look::apply()
 {
     const TFCore *core = TFCore::instance();
-    QApplication::setPalette(TFSkinPalette::current(QStyleFactory::create("Fusion")->standardPalette()));
+    const std::unique_ptr<QStyle> base(QStyleFactory::create(BaseStyle));
+    QApplication::setPalette(TFSkinPalette::current(base->standardPalette()));
     qApp->setStyleSheet(core->styleSheet(SheetFile));
 }
 
