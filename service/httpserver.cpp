@@ -105,6 +105,7 @@ public:
             return RequestHandler::refusal(Database::fault());
         const QByteArray body =
             QByteArray::fromRawData(request.body.data(), static_cast<int>(request.body.size()));
+        qCDebug(lcAccess).noquote() << QString::fromStdString(request.path) << body;
         return (handler.*operation)(body, *database);
     }
 

@@ -81,7 +81,8 @@ void TFSubjectTableWidget::orderKeyboard()
     QWidget *previous = m_filterBar;
     const QList<QWidget *> controls = m_filterBar->findChildren<QWidget *>();
     for (QWidget *control : controls) {
-        if (control->focusPolicy() == Qt::NoFocus)
+        // The lists that drop down are windows of their own.
+        if (control->focusPolicy() == Qt::NoFocus || control->window() != window())
             continue;
         setTabOrder(previous, control);
         previous = control;

@@ -1,0 +1,182 @@
+#include "demodata.h"
+#include "mainwindow.h"
+#include "options.h"
+#include "pagetab.h"
+#include "pagetabs.h"
+#include "terminal.h"
+
+#include "subjecttest.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+constexpr int PatienceMs = 20000;
+
+/// The data service as a program of its own, with all that it received.
+class LoggedService
+{
+public:
+    bool start()
+    {
+        m_process.setProcessChannelMode(QProcess::SeparateChannels);
+        m_process.start(PROJECT_BINARY_DIR "/bin/subject-service",
+                        {"--db", DemoData::database(), "--views", DemoData::views(), "--port", "0", "--log",
+                         "debug", "--exit-with-parent"});
+        while (!m_process.canReadLine()) {
+            if (!m_process.waitForReadyRead(PatienceMs))
+                return false;
+        }
+        m_address = QString::fromUtf8(m_process.readLine()).section("listening on ", 1).trimmed();
+        return !m_address.isEmpty();
+    }
+
+    ~LoggedService()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+    }
+
+    QString address() const { return m_address; }
+
+    /// Bodies of the row requests for a view, oldest first.
+    QList<QJsonObject> rowRequests(int view)
+    {
+        m_log += m_process.readAllStandardError();
+        QList<QJsonObject> bodies;
+        for (const QByteArray &line : m_log.split('\n')) {
+            const int brace = line.indexOf('{');
+            const QJsonObject body = QJsonDocument::fromJson(line.mid(qMax(brace, 0))).object();
+            if (body.value("obj_vw_id").toInt() == view && body.value("flag").toInt() == 1)
+                bodies.append(body);
+        }
+        return bodies;
+    }
+
+private:
+    QProcess m_process;
+    QByteArray m_log;
+    QString m_address;
+};
+} // namespace
+
+/// What a selected row of the main table sends to its child views, as the service receives it.
+class ChildViewsTest : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY2(DemoData::isThere(), "tools/demo-data makes the demonstration database"); }
+
+    void init()
+    {
+        m_config = std::make_unique<QTemporaryDir>();
+        qputenv("XDG_CONFIG_HOME", m_config->path().toUtf8());
+        beginMessages();
+        allowWarnings("frozen count");
+        m_service = std::make_unique<LoggedService>();
+        QVERIFY(m_service->start());
+        Options options;
+        options.service = m_service->address();
+        options.pages = QStringList{"view://subjectpage?pnodecode=2&objvwid=260"};
+        m_terminal = std::make_unique<Terminal>(options);
+        m_terminal->start();
+    }
+
+    void cleanup()
+    {
+        m_terminal.reset();
+        m_service.reset();
+        endMessages();
+    }
+
+    void firstRowAndChosenRowReachTheChildren()
+    {
+        // The first row has come down to all four children.
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->rowRequests(2604).isEmpty(), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_service->rowRequests(2601).isEmpty(), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(mainGrid() && mainRows() > 2, PatienceMs);
+        QCOMPARE(boundValue(m_service->rowRequests(2601).last(), "SYMBOL"), textAt(0, "SYMBOL"));
+
+        QWidget *rows = focusableIn(mainGrid());
+        QVERIFY(rows);
+        const int before = m_service->rowRequests(2601).size();
+        QTest::keyClick(rows, Qt::Key_Down);
+        QTest::keyClick(rows, Qt::Key_Down);
+
+        QTRY_VERIFY_WITH_TIMEOUT(m_service->rowRequests(2601).size() > before, PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            shownSymbols().contains(boundValue(m_service->rowRequests(2601).last(), "SYMBOL")), PatienceMs);
+        QVERIFY(boundValue(m_service->rowRequests(2601).last(), "SYMBOL") != textAt(0, "SYMBOL"));
+        const QJsonObject peers = m_service->rowRequests(2604).last();
+        QCOMPARE(peers.value("page").toInt(), 1);
+        QCOMPARE(peers.value("size").toInt(), 200);
+    }
+
+private:
+    QWidget *page() { return m_terminal->window().tabs().current(); }
+
+    QWidget *mainGrid()
+    {
+        const QWidget *mainView = page() ? page()->findChild<QWidget *>("mainView") : nullptr;
+        return mainView ? mainView->findChild<QWidget *>("tfGridView") : nullptr;
+    }
+
+    QAbstractItemModel *mainModel()
+    {
+        const QWidget *mainView = page()->findChild<QWidget *>("mainView");
+        for (QAbstractItemModel *model : mainView->findChildren<QAbstractItemModel *>()) {
+            if (model->inherits("TFSubjectTableModel"))
+                return model;
+        }
+        return nullptr;
+    }
+
+    int mainRows() { return mainModel() ? mainModel()->rowCount() : 0; }
+
+    static QWidget *focusableIn(QWidget *grid)
+    {
+        for (QWidget *widget : grid->findChildren<QWidget *>()) {
+            if (widget->focusPolicy() == Qt::StrongFocus && widget->isVisible())
+                return widget;
+        }
+        return grid->focusPolicy() == Qt::StrongFocus ? grid : nullptr;
+    }
+
+    /// Raw value of a field in a row of the main table; the model names its fields under a role.
+    QString textAt(int row, const QString &field)
+    {
+        QAbstractItemModel *model = mainModel();
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const QModelIndex index = model->index(row, column);
+            if (index.data(Qt::UserRole + 10).toString() == field)
+                return index.data(Qt::UserRole + 13).toString();
+        }
+        return {};
+    }
+
+    QStringList shownSymbols()
+    {
+        QStringList symbols;
+        for (int row = 1; row < mainRows(); ++row)
+            symbols.append(textAt(row, "SYMBOL"));
+        return symbols;
+    }
+
+    /// The value bound to a field, whether it went as a condition or as a key of its own.
+    static QString boundValue(const QJsonObject &body, const QString &field)
+    {
+        const QJsonValue bound = body.value("filterParams").toObject().value(field);
+        return (bound.isUndefined() ? body.value(field) : bound).toVariant().toString();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_config;
+    std::unique_ptr<LoggedService> m_service;
+    std::unique_ptr<Terminal> m_terminal;
+};
+
+SUBJECT_TEST_MAIN(ChildViewsTest)
+#include "tst_childviews.moc"
