@@ -121,12 +121,12 @@ void ActivityPanel::addMessage(const LogMessage &message)
 void ActivityPanel::showPlugins(const PluginManager &plugins)
 {
     m_plugins->clear();
-    for (const PluginSpec &spec : plugins.plugins()) {
-        const QString state = QCoreApplication::translate("PluginSpec", PluginSpec::stateName(spec.state));
+    for (const PluginInfo &info : plugins.plugins()) {
+        const QString state = QCoreApplication::translate("PluginInfo", PluginInfo::stateName(info.state));
         auto *item = new QTreeWidgetItem(
-            m_plugins, {spec.name, spec.version.toString(), state, spec.reason, spec.filePath});
-        item->setToolTip(3, spec.reason);
-        item->setToolTip(4, spec.filePath);
+            m_plugins, {info.name, info.version.toString(), state, info.reason, info.filePath});
+        item->setToolTip(3, info.reason);
+        item->setToolTip(4, info.filePath);
     }
 }
 

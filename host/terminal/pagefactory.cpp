@@ -34,9 +34,9 @@ PageFactory::PageFactory(const PluginManager *plugins, QObject *parent)
 
 QUrl PageFactory::homeUrl() const
 {
-    for (const PluginSpec &spec : m_plugins->plugins()) {
-        if (spec.isAtWork() && !spec.url.isEmpty())
-            return spec.url;
+    for (const PluginInfo &info : m_plugins->plugins()) {
+        if (info.isAtWork() && !info.url.isEmpty())
+            return info.url;
     }
     return {};
 }
@@ -52,11 +52,11 @@ bool PageFactory::isPageUrl(const QUrl &url)
 QString PageFactory::poolIdFor(const QUrl &url) const
 {
     QString id;
-    for (const PluginSpec &spec : m_plugins->plugins()) {
-        if (!spec.isAtWork() || !sameText(spec.url.scheme(), url.scheme()))
+    for (const PluginInfo &info : m_plugins->plugins()) {
+        if (!info.isAtWork() || !sameText(info.url.scheme(), url.scheme()))
             continue;
-        const QString own = PoolIdPrefix + spec.category.toUpper();
-        if (sameText(spec.url.host(), url.host()))
+        const QString own = PoolIdPrefix + info.category.toUpper();
+        if (sameText(info.url.host(), url.host()))
             return own;
         if (id.isEmpty())
             id = own;

@@ -51,11 +51,11 @@ void PluginManager::shutdown()
 QStringList PluginManager::faults() const
 {
     QStringList lines;
-    for (const PluginSpec &spec : m_specs) {
-        if (spec.reason.isEmpty())
+    for (const PluginInfo &info : m_specs) {
+        if (info.reason.isEmpty())
             continue;
-        const QString name = spec.name.isEmpty() ? QFileInfo(spec.filePath).fileName() : spec.name;
-        lines.append(name + ": " + spec.reason);
+        const QString name = info.name.isEmpty() ? QFileInfo(info.filePath).fileName() : info.name;
+        lines.append(name + ": " + info.reason);
     }
     return lines;
 }
@@ -67,16 +67,16 @@ void PluginManager::find()
         for (const QFileInfo &file : files) {
             if (!QLibrary::isLibrary(file.fileName()))
                 continue;
-            PluginSpec spec = PluginSpec::read(file.absoluteFilePath());
-            const auto same = [&](const PluginSpec &other) {
-                return other.state != PluginSpec::Invalid && other.name == spec.name;
+            PluginInfo info = PluginInfo::read(file.absoluteFilePath());
+            const auto same = [&](const PluginInfo &other) {
+                return other.state != PluginInfo::Invalid && other.name == info.name;
             };
             const auto twin = std::find_if(m_specs.begin(), m_specs.end(), same);
-            if (spec.state != PluginSpec::Invalid && twin != m_specs.end()) {
-                spec.state = PluginSpec::Invalid;
-                spec.reason = tr("a plug-in of this name was found before, in %1").arg(twin->filePath);
+            if (info.state != PluginInfo::Invalid && twin != m_specs.end()) {
+                info.state = PluginInfo::Invalid;
+                info.reason = tr("a plug-in of this name was found before, in %1").arg(twin->filePath);
             }
-            m_specs.push_back(spec);
+            m_specs.push_back(info);
         }
     }
 }
@@ -90,26 +90,26 @@ void PluginManager::resolve()
 
 void PluginManager::visit(int index, std::vector<int> *marks)
 {
-    PluginSpec &spec = m_specs[size_t(index)];
+    PluginInfo &info = m_specs[size_t(index)];
     int &mark = (*marks)[size_t(index)];
-    if (mark != Unvisited || spec.state != PluginSpec::Read)
+    if (mark != Unvisited || info.state != PluginInfo::Read)
         return;
     mark = InWork;
-    const QString fault = missingDependency(spec, marks);
+    const QString fault = missingDependency(info, marks);
     mark = Done;
     if (fault.isEmpty()) {
-        spec.state = PluginSpec::Resolved;
+        info.state = PluginInfo::Resolved;
         m_order.push_back(index);
     } else {
-        spec.state = PluginSpec::Failed;
-        spec.reason = fault;
+        info.state = PluginInfo::Failed;
+        info.reason = fault;
     }
 }
 
-QString PluginManager::missingDependency(const PluginSpec &spec, std::vector<int> *marks)
+QString PluginManager::missingDependency(const PluginInfo &info, std::vector<int> *marks)
 {
-    for (const PluginDependency &dependency : spec.dependencies) {
-        const auto fits = [&](const PluginSpec &other) { return other.provides(dependency); };
+    for (const PluginDependency &dependency : info.dependencies) {
+        const auto fits = [&](const PluginInfo &other) { return other.provides(dependency); };
         const auto found = std::find_if(m_specs.begin(), m_specs.end(), fits);
         if (found == m_specs.end())
             return tr("needs %1 %2, which is not there").arg(dependency.name, dependency.version.toString());
@@ -117,26 +117,26 @@ QString PluginManager::missingDependency(const PluginSpec &spec, std::vector<int
         if ((*marks)[size_t(index)] == InWork)
             return tr("depends on itself by way of %1").arg(dependency.name);
         visit(index, marks);
-        if (found->state != PluginSpec::Resolved)
+        if (found->state != PluginInfo::Resolved)
             return tr("needs %1, which does not work: %2").arg(dependency.name, found->reason);
     }
     return {};
 }
 
-void PluginManager::start(PluginSpec *spec)
+void PluginManager::start(PluginInfo *info)
 {
-    const auto fail = [spec](const QString &reason) {
-        spec->state = PluginSpec::Failed;
-        spec->reason = reason;
+    const auto fail = [info](const QString &reason) {
+        info->state = PluginInfo::Failed;
+        info->reason = reason;
     };
-    for (const PluginDependency &dependency : spec->dependencies) {
-        const bool works = std::any_of(m_specs.begin(), m_specs.end(), [&](const PluginSpec &other) {
+    for (const PluginDependency &dependency : info->dependencies) {
+        const bool works = std::any_of(m_specs.begin(), m_specs.end(), [&](const PluginInfo &other) {
             return other.isAtWork() && other.provides(dependency);
         });
         if (!works)
             return fail(tr("needs %1, which did not start").arg(dependency.name));
     }
-    QPluginLoader loader(spec->filePath);
+    QPluginLoader loader(info->filePath);
     QObject *root = loader.instance();
     if (!root)
         return fail(loader.errorString());
@@ -145,12 +145,12 @@ void PluginManager::start(PluginSpec *spec)
         delete root;
         return fail(tr("its class is not derived from IPlugin"));
     }
-    spec->state = PluginSpec::Loaded;
+    info->state = PluginInfo::Loaded;
     QString error;
-    if (!plugin->initialize(spec->arguments, &error))
+    if (!plugin->initialize(info->arguments, &error))
         return fail(error.isEmpty() ? tr("it refused to start and gave no reason") : error);
-    spec->state = PluginSpec::Initialized;
-    qCDebug(lcPlugin) << "initialized" << spec->name << spec->version.toString() << spec->filePath;
+    info->state = PluginInfo::Initialized;
+    qCDebug(lcPlugin) << "initialized" << info->name << info->version.toString() << info->filePath;
     m_started.push_back(std::move(plugin));
 }
 

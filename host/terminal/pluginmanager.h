@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pluginspec.h"
+#include "plugininfo.h"
 
 #include <QObject>
 
@@ -28,7 +28,7 @@ public:
     /// Gives the plug-ins their last call, in the reverse order of their start.
     void shutdown();
 
-    const std::vector<PluginSpec> &plugins() const { return m_specs; }
+    const std::vector<PluginInfo> &plugins() const { return m_specs; }
     /// Folders that load() searched.
     QStringList folders() const { return m_folders; }
     /// "name: reason" of each plug-in that is not at work, ready to be shown.
@@ -41,11 +41,11 @@ private:
     void find();
     void resolve();
     void visit(int index, std::vector<int> *marks);
-    QString missingDependency(const PluginSpec &spec, std::vector<int> *marks);
-    void start(PluginSpec *spec);
+    QString missingDependency(const PluginInfo &info, std::vector<int> *marks);
+    void start(PluginInfo *info);
     void delayedInitializeNext(int index);
 
-    std::vector<PluginSpec> m_specs;
+    std::vector<PluginInfo> m_specs;
     QStringList m_folders;
     std::vector<int> m_order; ///< indices of the resolved plug-ins, what others depend on first
     std::vector<std::unique_ptr<IPlugin>> m_started;

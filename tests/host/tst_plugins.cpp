@@ -14,8 +14,8 @@ namespace {
 QString textOf(const PluginManager &manager)
 {
     QStringList lines;
-    for (const PluginSpec &spec : manager.plugins())
-        lines.append(QStringList({spec.name, PluginSpec::stateName(spec.state), spec.reason}).join(" | "));
+    for (const PluginInfo &info : manager.plugins())
+        lines.append(QStringList({info.name, PluginInfo::stateName(info.state), info.reason}).join(" | "));
     return lines.join('\n');
 }
 } // namespace

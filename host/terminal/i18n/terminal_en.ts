@@ -270,7 +270,7 @@
     </message>
 </context>
 <context>
-    <name>PluginSpec</name>
+    <name>PluginInfo</name>
     <message>
         <source>not a plug-in</source>
         <translation>not a plug-in</translation>

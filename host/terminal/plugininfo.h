@@ -14,7 +14,7 @@ struct PluginDependency
 };
 
 /// A plug-in file, what its metadata tells, and how far it has come.
-struct PluginSpec
+struct PluginInfo
 {
     enum State {
         Invalid,     ///< no plug-in of this terminal; see reason
@@ -45,5 +45,5 @@ struct PluginSpec
     static const char *stateName(State state);
 
     /// Reads the metadata of \a filePath without loading its code.
-    static PluginSpec read(const QString &filePath);
+    static PluginInfo read(const QString &filePath);
 };

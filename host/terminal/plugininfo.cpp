@@ -1,4 +1,4 @@
-#include "pluginspec.h"
+#include "plugininfo.h"
 
 #include "tfcore/iplugin.h"
 
@@ -22,7 +22,7 @@ const char DescriptionKey[] = "Description";
 
 struct Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(PluginSpec)
+    Q_DECLARE_TR_FUNCTIONS(PluginInfo)
 };
 
 /// A dependency is a name, or an object with the keys Name and Version.
@@ -35,39 +35,39 @@ PluginDependency readDependency(const QJsonValue &value)
             QVersionNumber::fromString(object.value(VersionKey).toString())};
 }
 
-void readMetaData(const QJsonObject &data, PluginSpec *spec)
+void readMetaData(const QJsonObject &data, PluginInfo *info)
 {
-    spec->name = data.value(NameKey).toString();
-    spec->version = QVersionNumber::fromString(data.value(VersionKey).toString());
-    spec->compatVersion = data.contains(CompatVersionKey)
+    info->name = data.value(NameKey).toString();
+    info->version = QVersionNumber::fromString(data.value(VersionKey).toString());
+    info->compatVersion = data.contains(CompatVersionKey)
                               ? QVersionNumber::fromString(data.value(CompatVersionKey).toString())
-                              : spec->version;
-    spec->required = data.value(RequiredKey).toBool();
-    spec->category = data.value(CategoryKey).toString();
+                              : info->version;
+    info->required = data.value(RequiredKey).toBool();
+    info->category = data.value(CategoryKey).toString();
     for (const QJsonValue &argument : data.value(ArgumentsKey).toArray())
-        spec->arguments.append(argument.toString());
+        info->arguments.append(argument.toString());
     for (const QJsonValue &dependency : data.value(DependenciesKey).toArray())
-        spec->dependencies.append(readDependency(dependency));
-    spec->url = QUrl(data.value(UrlKey).toString());
-    spec->description = data.value(DescriptionKey).toString();
+        info->dependencies.append(readDependency(dependency));
+    info->url = QUrl(data.value(UrlKey).toString());
+    info->description = data.value(DescriptionKey).toString();
 }
 
-QString faultOf(const QJsonObject &metaData, const PluginSpec &spec)
+QString faultOf(const QJsonObject &metaData, const PluginInfo &info)
 {
     const QString iid = metaData.value(IidKey).toString();
     if (metaData.isEmpty())
         return Texts::tr("not a plug-in");
     if (iid != TF_APP_PLUGIN_IID)
         return Texts::tr("interface \"%1\" where \"%2\" is expected").arg(iid, TF_APP_PLUGIN_IID);
-    if (spec.name.isEmpty())
+    if (info.name.isEmpty())
         return Texts::tr("the metadata has no text under \"%1\"").arg(NameKey);
-    if (spec.version.isNull())
+    if (info.version.isNull())
         return Texts::tr("the metadata has no version number under \"%1\"").arg(VersionKey);
     return {};
 }
 } // namespace
 
-bool PluginSpec::provides(const PluginDependency &dependency) const
+bool PluginInfo::provides(const PluginDependency &dependency) const
 {
     if (name != dependency.name)
         return false;
@@ -75,22 +75,22 @@ bool PluginSpec::provides(const PluginDependency &dependency) const
            (compatVersion <= dependency.version && dependency.version <= version);
 }
 
-const char *PluginSpec::stateName(State state)
+const char *PluginInfo::stateName(State state)
 {
     static const char *const names[] = {
-        QT_TRANSLATE_NOOP("PluginSpec", "Invalid"),     QT_TRANSLATE_NOOP("PluginSpec", "Read"),
-        QT_TRANSLATE_NOOP("PluginSpec", "Resolved"),    QT_TRANSLATE_NOOP("PluginSpec", "Loaded"),
-        QT_TRANSLATE_NOOP("PluginSpec", "Initialized"), QT_TRANSLATE_NOOP("PluginSpec", "Failed")};
+        QT_TRANSLATE_NOOP("PluginInfo", "Invalid"),     QT_TRANSLATE_NOOP("PluginInfo", "Read"),
+        QT_TRANSLATE_NOOP("PluginInfo", "Resolved"),    QT_TRANSLATE_NOOP("PluginInfo", "Loaded"),
+        QT_TRANSLATE_NOOP("PluginInfo", "Initialized"), QT_TRANSLATE_NOOP("PluginInfo", "Failed")};
     return names[state];
 }
 
-PluginSpec PluginSpec::read(const QString &filePath)
+PluginInfo PluginInfo::read(const QString &filePath)
 {
-    PluginSpec spec;
-    spec.filePath = filePath;
+    PluginInfo info;
+    info.filePath = filePath;
     const QJsonObject metaData = QPluginLoader(filePath).metaData();
-    readMetaData(metaData.value(MetaDataKey).toObject(), &spec);
-    spec.reason = faultOf(metaData, spec);
-    spec.state = spec.reason.isEmpty() ? Read : Invalid;
-    return spec;
+    readMetaData(metaData.value(MetaDataKey).toObject(), &info);
+    info.reason = faultOf(metaData, info);
+    info.state = info.reason.isEmpty() ? Read : Invalid;
+    return info;
 }
