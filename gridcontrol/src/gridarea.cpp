@@ -82,26 +82,47 @@ void GridArea::applySelectionPolicy()
 
 void GridArea::columnsChanged()
 {
+    // Setting up a table changes each of its columns several times; it is laid out once, when it is looked
+    // at.
+    m_columnsDirty = true;
+    if (isVisible())
+        layOutColumns();
+}
+
+void GridArea::layOutColumns() const
+{
+    m_columnsDirty = false;
     m_columns.build(m_view->shownColumns(), viewport()->width());
     m_captions.build(m_columns);
-    updateGeometries();
+    const_cast<GridArea *>(this)->updateGeometries();
     viewport()->update();
     m_header->update();
 }
 
+void GridArea::showEvent(QShowEvent *event)
+{
+    QAbstractItemView::showEvent(event);
+    if (m_columnsDirty)
+        layOutColumns();
+}
+
 void GridArea::columnResized(const GridColumn *column)
 {
+    if (m_columnsDirty || !isVisible()) {
+        m_columnsDirty = true;
+        return;
+    }
     const int slot = m_columns.slotOf(column);
     if (slot < 0)
         return;
-    const int left = m_columns.at(slot).fixed ? m_columns.screenLeft(slot, 0)
-                                              : m_columns.screenLeft(slot, horizontalOffset());
-    const int fixed = m_columns.fixedCount();
+    const int left = columns().at(slot).fixed ? columns().screenLeft(slot, 0)
+                                              : columns().screenLeft(slot, horizontalOffset());
+    const int fixed = columns().fixedCount();
     m_columns.build(m_view->shownColumns(), viewport()->width());
-    if (fixed != m_columns.fixedCount())
+    if (fixed != columns().fixedCount())
         m_captions.build(m_columns);
     updateGeometries();
-    const int from = qMax(0, fixed == m_columns.fixedCount() ? left : 0);
+    const int from = qMax(0, fixed == columns().fixedCount() ? left : 0);
     viewport()->update(from, 0, viewport()->width() - from, viewport()->height());
     // A caption over the column is centred anew over its whole band, so it starts further left.
     m_header->updateFrom(column);
@@ -140,9 +161,9 @@ void GridArea::updateGeometries()
 
 void GridArea::updateScrollBars()
 {
-    const int fixedBefore = m_columns.fixedCount();
+    const int fixedBefore = columns().fixedCount();
     m_columns.build(m_view->shownColumns(), viewport()->width());
-    if (fixedBefore != m_columns.fixedCount())
+    if (fixedBefore != columns().fixedCount())
         m_captions.build(m_columns);
 
     const qint64 height = qint64(m_rows->rowCount()) * m_lineHeight;
@@ -150,8 +171,8 @@ void GridArea::updateScrollBars()
     verticalScrollBar()->setRange(0, qMax(0, below));
     verticalScrollBar()->setPageStep(viewport()->height());
     verticalScrollBar()->setSingleStep(m_lineHeight);
-    const int scrolled = viewport()->width() - m_columns.fixedWidth();
-    horizontalScrollBar()->setRange(0, qMax(0, m_columns.totalWidth() - viewport()->width()));
+    const int scrolled = viewport()->width() - columns().fixedWidth();
+    horizontalScrollBar()->setRange(0, qMax(0, columns().totalWidth() - viewport()->width()));
     horizontalScrollBar()->setPageStep(qMax(1, scrolled));
     horizontalScrollBar()->setSingleStep(40);
 }
@@ -171,7 +192,7 @@ void GridArea::scrollContentsBy(int dx, int dy)
     if (dy)
         viewport()->scroll(0, dy);
     if (dx) {
-        const int fixed = m_columns.fixedWidth();
+        const int fixed = columns().fixedWidth();
         viewport()->scroll(dx, 0, QRect(fixed, 0, viewport()->width() - fixed, viewport()->height()));
         m_header->scrollColumns(dx);
     }
@@ -200,13 +221,13 @@ QRect GridArea::lineRect(int line) const
     const qint64 top = qint64(line) * m_lineHeight - verticalOffset();
     // Lines far away keep a place outside the viewport that can be added to.
     const int bounded = int(qBound<qint64>(-1000000, top, 1000000));
-    return QRect(0, bounded, qMax(viewport()->width(), m_columns.totalWidth()), m_lineHeight);
+    return QRect(0, bounded, qMax(viewport()->width(), columns().totalWidth()), m_lineHeight);
 }
 
 QRect GridArea::cellRect(int line, int slot) const
 {
     const QRect row = lineRect(line);
-    return QRect(m_columns.screenLeft(slot, horizontalOffset()), row.top(), m_columns.at(slot).width,
+    return QRect(columns().screenLeft(slot, horizontalOffset()), row.top(), columns().at(slot).width,
                  row.height());
 }
 
@@ -234,21 +255,21 @@ QString GridArea::textOf(int line, int slot) const
 {
     if (const RowGroup *group = m_rows->order().groupAt(line))
         return slot == 0 ? group->key : QString();
-    const GridColumn *column = m_columns.at(slot).column;
+    const GridColumn *column = columns().at(slot).column;
     const QString text = displayText(m_rows->sourceIndex(line, column->index()).data(), locale());
     return column->isLink() ? linkText(text).caption : text;
 }
 
 QModelIndex GridArea::indexFor(int line, int slot) const
 {
-    return slot >= 0 && slot < m_columns.count() ? m_rows->index(line, m_columns.at(slot).column->index())
+    return slot >= 0 && slot < columns().count() ? m_rows->index(line, columns().at(slot).column->index())
                                                  : QModelIndex();
 }
 
 QModelIndex GridArea::indexAt(const QPoint &point) const
 {
     const int line = lineAt(point.y());
-    const int slot = m_columns.slotAt(point.x(), horizontalOffset());
+    const int slot = columns().slotAt(point.x(), horizontalOffset());
     if (line >= 0 && slot < 0 && isGroupLine(line))
         return indexFor(line, 0);
     return line >= 0 ? indexFor(line, slot) : QModelIndex();
@@ -256,13 +277,13 @@ QModelIndex GridArea::indexAt(const QPoint &point) const
 
 QRect GridArea::visualRect(const QModelIndex &index) const
 {
-    const int slot = index.isValid() ? m_columns.slotOfModelColumn(index.column()) : -1;
+    const int slot = index.isValid() ? columns().slotOfModelColumn(index.column()) : -1;
     return slot >= 0 ? cellRect(index.row(), slot) : QRect();
 }
 
 bool GridArea::isIndexHidden(const QModelIndex &index) const
 {
-    return m_columns.slotOfModelColumn(index.column()) < 0;
+    return columns().slotOfModelColumn(index.column()) < 0;
 }
 
 void GridArea::scrollTo(const QModelIndex &index, ScrollHint hint)
@@ -278,11 +299,11 @@ void GridArea::scrollTo(const QModelIndex &index, ScrollHint hint)
     else if (hint == PositionAtBottom || top + m_lineHeight > verticalOffset() + page)
         verticalScrollBar()->setValue(top + m_lineHeight - page);
 
-    const int slot = m_columns.slotOfModelColumn(index.column());
-    if (slot < 0 || m_columns.at(slot).fixed || isGroupLine(index.row()))
+    const int slot = columns().slotOfModelColumn(index.column());
+    if (slot < 0 || columns().at(slot).fixed || isGroupLine(index.row()))
         return;
     const QRect cell = cellRect(index.row(), slot);
-    const int fixed = m_columns.fixedWidth();
+    const int fixed = columns().fixedWidth();
     if (cell.left() < fixed || cell.width() > viewport()->width() - fixed)
         horizontalScrollBar()->setValue(horizontalOffset() + cell.left() - fixed);
     else if (cell.right() >= viewport()->width())
@@ -349,10 +370,10 @@ CellPlace GridArea::placeAt(const QPoint &point) const
     if (!viewport()->rect().contains(point))
         return place;
     place.line = lineAt(point.y());
-    place.slot = m_columns.slotAt(point.x(), horizontalOffset());
+    place.slot = columns().slotAt(point.x(), horizontalOffset());
     if (place.line < 0 || place.slot < 0 || isGroupLine(place.line))
         return place;
-    const GridColumn &column = *m_columns.at(place.slot).column;
+    const GridColumn &column = *columns().at(place.slot).column;
     if (!column.isLink() && column.buttonCount() == 0)
         return place;
     const QString text = textOf(place.line, place.slot);

@@ -45,8 +45,17 @@ public:
     GridHeader *header() const { return m_header; }
     RowModel &rows() { return *m_rows; }
     const RowModel &rows() const { return *m_rows; }
-    const ColumnLayout &columns() const { return m_columns; }
-    const HeaderLayout &captions() const { return m_captions; }
+    const ColumnLayout &columns() const
+    {
+        if (m_columnsDirty)
+            layOutColumns();
+        return m_columns;
+    }
+    const HeaderLayout &captions() const
+    {
+        columns();
+        return m_captions;
+    }
     const GridColors &colors() const { return m_colors; }
     TextCache &texts() { return m_texts; }
     const CellPlace &hover() const { return m_hover; }
@@ -109,6 +118,7 @@ protected:
     QModelIndexList selectedIndexes() const override;
 
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
     void dataChanged(const QModelIndex &first, const QModelIndex &last, const QVector<int> &roles) override;
@@ -141,6 +151,7 @@ private:
     void copy(bool withHeader);
     void applySelectionPolicy();
     QItemSelectionModel::SelectionFlags selectionBehaviorFlags() const;
+    void layOutColumns() const;
     void updateScrollBars();
     void showZoom();
     QItemSelection rectangle(const QModelIndex &a, const QModelIndex &b) const;
@@ -149,8 +160,9 @@ private:
     RowModel *m_rows;
     GridHeader *m_header;
     GridFindBar *m_findBar = nullptr;
-    ColumnLayout m_columns;
-    HeaderLayout m_captions;
+    mutable ColumnLayout m_columns;
+    mutable HeaderLayout m_captions;
+    mutable bool m_columnsDirty = false;
     GridColors m_colors;
     TextCache m_texts;
     CellPlace m_hover;

@@ -21,14 +21,14 @@ namespace Qtitan {
 QModelIndex GridArea::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
 {
     const int lines = m_rows->rowCount();
-    const int last = m_columns.count() - 1;
+    const int last = columns().count() - 1;
     if (lines == 0 || last < 0)
         return QModelIndex();
     const QModelIndex current = currentIndex();
     if (!current.isValid())
         return indexFor(0, 0);
     int line = current.row();
-    int slot = qMax(0, m_columns.slotOfModelColumn(current.column()));
+    int slot = qMax(0, columns().slotOfModelColumn(current.column()));
     const bool far = modifiers & Qt::ControlModifier;
     const int page = qMax(1, viewport()->height() / m_lineHeight - 1);
     switch (action) {
@@ -75,13 +75,13 @@ QItemSelection GridArea::rectangle(const QModelIndex &a, const QModelIndex &b) c
         selection.select(m_rows->index(top, 0), m_rows->index(bottom, m_rows->columnCount() - 1));
         return selection;
     }
-    const int slotOfA = m_columns.slotOfModelColumn(a.column());
-    const int slotOfB = m_columns.slotOfModelColumn(b.column());
+    const int slotOfA = columns().slotOfModelColumn(a.column());
+    const int slotOfB = columns().slotOfModelColumn(b.column());
     for (int slot = qMax(0, qMin(slotOfA, slotOfB)); slot <= qMax(slotOfA, slotOfB);) {
         // Neighbours on the screen make one range as long as they are neighbours in the model.
         int end = slot;
         while (end < qMax(slotOfA, slotOfB) &&
-               m_columns.at(end + 1).column->index() == m_columns.at(end).column->index() + 1)
+               columns().at(end + 1).column->index() == columns().at(end).column->index() + 1)
             ++end;
         selection.append(QItemSelectionRange(indexFor(top, slot), indexFor(bottom, end)));
         slot = end + 1;
@@ -94,8 +94,8 @@ void GridArea::setSelection(const QRect &rect, QItemSelectionModel::SelectionFla
     const auto nearest = [this](const QPoint &point) {
         const int lines = m_rows->rowCount();
         const int wanted = (point.y() + verticalOffset()) / m_lineHeight;
-        const int slot = m_columns.slotAt(qMax(0, point.x()), horizontalOffset());
-        return indexFor(qBound(0, wanted, lines - 1), slot < 0 ? m_columns.count() - 1 : slot);
+        const int slot = columns().slotAt(qMax(0, point.x()), horizontalOffset());
+        return indexFor(qBound(0, wanted, lines - 1), slot < 0 ? columns().count() - 1 : slot);
     };
     const QModelIndex end = nearest(rect.bottomRight());
     if (!end.isValid())
@@ -150,9 +150,9 @@ void GridArea::currentChanged(const QModelIndex &current, const QModelIndex &pre
     updateLine(previous.isValid() ? previous.row() : -1);
     updateLine(current.isValid() ? current.row() : -1);
     if (QAccessible::isActive() && current.isValid()) {
-        const int slot = m_columns.slotOfModelColumn(current.column());
+        const int slot = columns().slotOfModelColumn(current.column());
         QAccessibleEvent event(this, QAccessible::Focus);
-        event.setChild((1 + current.row()) * qMax(1, m_columns.count()) + qMax(0, slot));
+        event.setChild((1 + current.row()) * qMax(1, columns().count()) + qMax(0, slot));
         QAccessible::updateAccessibility(&event);
     }
     reportFocus();
@@ -243,7 +243,7 @@ void GridArea::keyPressEvent(QKeyEvent *event)
     } else if (groupKey(event)) {
         event->accept();
     } else if (enter && current.isValid() &&
-               activateCell(current.row(), m_columns.slotOfModelColumn(current.column()), 0)) {
+               activateCell(current.row(), columns().slotOfModelColumn(current.column()), 0)) {
         event->accept();
     } else {
         QAbstractItemView::keyPressEvent(event);
@@ -259,9 +259,9 @@ bool GridArea::activateCell(int line, int slot, int button)
 
 bool GridArea::followLink(int line, int slot)
 {
-    if (slot < 0 || isGroupLine(line) || !m_columns.at(slot).column->isLink())
+    if (slot < 0 || isGroupLine(line) || !columns().at(slot).column->isLink())
         return false;
-    GridColumn *column = m_columns.at(slot).column;
+    GridColumn *column = columns().at(slot).column;
     const QString text = displayText(m_rows->sourceIndex(line, column->index()).data(), locale());
     if (text.isEmpty())
         return false;
@@ -273,10 +273,10 @@ bool GridArea::followLink(int line, int slot)
 
 bool GridArea::pressButton(int line, int slot, int button)
 {
-    if (slot < 0 || isGroupLine(line) || button >= m_columns.at(slot).column->buttonCount() ||
+    if (slot < 0 || isGroupLine(line) || button >= columns().at(slot).column->buttonCount() ||
         textOf(line, slot).isEmpty())
         return false;
-    GridColumn *column = m_columns.at(slot).column;
+    GridColumn *column = columns().at(slot).column;
     const GridRow row(m_view->model(), m_view->rootIndex(), m_rows->order().rowAt(line));
     CellButtonClickEventArgs args(row, column, button);
     emit column->buttonClicked(&args);
@@ -364,7 +364,7 @@ bool GridArea::showToolTip(const QPoint &point, const QPoint &global)
     const CellPlace place = placeAt(point);
     if (place.line < 0 || place.slot < 0 || isGroupLine(place.line))
         return false;
-    const GridColumn &column = *m_columns.at(place.slot).column;
+    const GridColumn &column = *columns().at(place.slot).column;
     const QRect cell = cellRect(place.line, place.slot);
     QString tip = place.button >= 0 ? column.button(place.button).toolTip : QString();
     if (tip.isEmpty())
@@ -406,7 +406,7 @@ void GridArea::keyboardSearch(const QString &search)
     // Looking through a million rows at a keystroke would stop the program: only short tables search by
     // typing.
     constexpr int longestSearch = 20000;
-    if (m_rows->rowCount() <= longestSearch && m_columns.count() > 0)
+    if (m_rows->rowCount() <= longestSearch && columns().count() > 0)
         QAbstractItemView::keyboardSearch(search);
 }
 
