@@ -9,17 +9,17 @@ namespace Qtitan {
 
 namespace {
 constexpr int leastScrolledStrip = 60;
-
-bool isFixed(const GridColumn *column)
-{
-    if (column->fixedKind() == FixedLeft)
-        return true;
-    for (const GridTableBand *band = column->parentBand(); band; band = band->parentBand())
-        if (band->fixedKind() == FixedLeft)
-            return true;
-    return false;
-}
 } // namespace
+
+bool isFixed(const GridColumnBase *item)
+{
+    return item && (item->fixedKind() == FixedLeft || isFixed(item->parentBand()));
+}
+
+bool isShown(const GridColumnBase *item)
+{
+    return !item || (item->isVisible() && isShown(item->parentBand()));
+}
 
 const GridTableBand *topBand(const GridColumn *column)
 {

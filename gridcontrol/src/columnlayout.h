@@ -5,6 +5,7 @@
 namespace Qtitan {
 
 class GridColumn;
+class GridColumnBase;
 class GridTableBand;
 
 /// Where one shown column stands.
@@ -56,6 +57,12 @@ private:
 /// Gives \a columns widths in the proportion of \a weights that add up to \a total, as far as the least width
 /// allows.
 void shareWidth(const QVector<GridColumn *> &columns, const QVector<int> &weights, int total);
+
+/// Whether \a item, or a band over it, is fixed.
+bool isFixed(const GridColumnBase *item);
+
+/// Whether \a item and every band over it is visible; true for null.
+bool isShown(const GridColumnBase *item);
 
 /// The topmost band over \a column that has a caption; null if there is none.
 const GridTableBand *topBand(const GridColumn *column);

@@ -67,6 +67,8 @@ void GridBase::changeEvent(QEvent *event)
                        event->type() == QEvent::ApplicationPaletteChange;
     if (looks && m_view)
         m_view->area()->appearanceChanged();
+    if (event->type() == QEvent::FontChange && m_view)
+        m_view->area()->metricsChanged();
     if (event->type() == QEvent::LanguageChange && m_view)
         m_view->area()->viewport()->update();
 }

@@ -68,18 +68,6 @@ GridViewOptions &GridArea::options() const
     return m_view->options();
 }
 
-void GridArea::applySelectionPolicy()
-{
-    const int policy = options().selectionPolicy();
-    setSelectionMode(policy == NoSelection          ? QAbstractItemView::NoSelection
-                     : policy == SingleRowSelection ? SingleSelection
-                                                    : ExtendedSelection);
-    setSelectionBehavior(policy == CellSelection ? SelectItems : SelectRows);
-    if (policy == Qtitan::NoSelection)
-        clearSelection();
-    viewport()->update();
-}
-
 void GridArea::columnsChanged()
 {
     // Setting up a table changes each of its columns several times; it is laid out once, when it is looked
@@ -130,7 +118,8 @@ void GridArea::columnResized(const GridColumn *column)
 
 void GridArea::metricsChanged()
 {
-    m_texts.setFont(scaled(font(), options().zoomFactor()));
+    // Not the own font: a style sheet on the grid does not hand its font down.
+    m_texts.setFont(scaled(m_view->grid()->font(), options().zoomFactor()));
     const qreal zoom = options().zoomFactor();
     m_lineHeight = qMax(qRound(rowHeight * zoom), m_texts.textHeight() + 4);
     m_levelHeight = qMax(qRound(captionHeight * zoom), QFontMetrics(m_header->captionFont()).height() + 6);

@@ -129,7 +129,6 @@ protected:
 
     bool event(QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

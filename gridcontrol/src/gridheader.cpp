@@ -48,7 +48,8 @@ int GridHeader::wantedHeight() const
 
 QFont GridHeader::captionFont() const
 {
-    QFont font = m_area->options().hasColumnFont() ? m_area->options().columnFont() : m_area->font();
+    QFont font =
+        m_area->options().hasColumnFont() ? m_area->options().columnFont() : m_area->view()->grid()->font();
     const qreal zoom = m_area->options().zoomFactor();
     if (font.pixelSize() > 0)
         font.setPixelSize(qRound(font.pixelSize() * zoom));

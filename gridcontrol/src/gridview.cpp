@@ -141,18 +141,6 @@ GridColumn *GridViewBase::getColumnByCaption(const QString &caption) const
     return found == m_columns.end() ? nullptr : *found;
 }
 
-namespace {
-bool isFixed(const GridColumnBase *item)
-{
-    return item && (item->fixedKind() == FixedLeft || isFixed(item->parentBand()));
-}
-
-bool isShown(const GridColumnBase *item)
-{
-    return !item || (item->isVisible() && isShown(item->parentBand()));
-}
-} // namespace
-
 QVector<GridColumn *> GridViewBase::shownColumns() const
 {
     QVector<GridColumn *> shown;

@@ -408,7 +408,14 @@ void GridViewTest::styleSheetColoursAreDrawn()
     QCOMPARE(shot.pixelColor(98, 48 + 2), QColor(0xff00ff));
     QCOMPARE(shot.pixelColor(98, 2), table.grid.palette().color(QPalette::Base));
 
-    table.grid.setStyleSheet("Qtitan--Grid { qproperty-alternateColor: #203040; }");
+    table.grid.setStyleSheet(
+        "Qtitan--Grid { background: #010203; color: #a0b0c0; qproperty-alternateColor: #203040; }");
+    QCOMPARE(table.grid.colors().panel, QColor(0x010203));
+    QCOMPARE(table.grid.colors().text, QColor(0xa0b0c0));
+    table.grid.setStyleSheet(table.grid.styleSheet() + " Qtitan--Grid { font-size: 40px; }");
+    QCOMPARE(table.area().texts().font().pixelSize(), 40);
+    QVERIFY(table.area().lineHeight() > 40);
+    table.grid.setStyleSheet(table.grid.styleSheet() + " Qtitan--Grid { font-size: 12px; }");
     QCOMPARE(table.viewport()->grab().toImage().pixelColor(98, 24 + 2), QColor(0x203040));
 }
 
