@@ -8,6 +8,7 @@ target_sources(subjectcore PRIVATE
 target_sources(subjectui PRIVATE
     tfmessagebox.cpp tfmessagebox.h
     resources/messagebox.qrc
+    tftranslations.cpp tftranslations.h
 )
 
 # The navigation trees, the menu and the table of constants.

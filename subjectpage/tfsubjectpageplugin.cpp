@@ -3,6 +3,7 @@
 #include <new>
 
 #include "tfsubjectpage.h"
+#include "tftranslations.h"
 
 namespace {
 void *constructPage(void *where, const void *)
@@ -26,6 +27,7 @@ int registerPage()
 
 bool TFSubjectPagePlugin::initialize(const QStringList &, QString *)
 {
+    TFTranslations::install();
     auto *page = new QObject;
     page->setObjectName(QStringLiteral("SubjectPage"));
     page->setProperty("id", QStringLiteral("TFApp.SUBJECT"));

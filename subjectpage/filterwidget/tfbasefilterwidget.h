@@ -36,6 +36,10 @@ public:
     /// What the control reports now. An empty key means that it contributes nothing.
     virtual FilterParam::Cntrl getCntrl() const = 0;
 
+    /// Takes what the control shows now as its default. From here on a dot beside the caption tells that it
+    /// shows something else. Buttons and hidden controls have no such dot.
+    void takeAsDefault();
+
 protected:
     /// A report with key, operator, value type and caption of the row, and no value yet.
     FilterParam::Cntrl described() const;
@@ -43,6 +47,23 @@ protected:
     /// The control's layout, which it makes, with the given spacing and no margins.
     QHBoxLayout *makeLayout(int spacing);
 
-    /// The label of the caption, named "filterCaption" for the style sheet; its text is set by the control.
-    QLabel *makeLabel();
+    /// The label of the caption, named "filterCaption" for the style sheet; hidden until it has a text. It
+    /// keeps six pixels from the box beside it in a layout of any smaller \a spacing.
+    QLabel *makeLabel(int spacing = 6);
+    /// Writes the row's caption on the label that makeLabel() has made.
+    void showCaption();
+
+    /// Shows or hides the dot. Boxes and lines call it by themselves, buttons with a menu do not.
+    void markChange();
+
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QString shownText() const;
+    void watchBoxes();
+    void placeMark();
+
+    QLabel *m_caption = nullptr;
+    QWidget *m_mark = nullptr; ///< the dot; made with the first default
+    QString m_default;
 };

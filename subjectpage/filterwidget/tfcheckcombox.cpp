@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QWidgetAction>
 
@@ -23,6 +24,19 @@ QStringList listParts(const QString &text)
     const QChar separator = text.contains(QLatin1Char(';')) ? QLatin1Char(';') : QLatin1Char(',');
     return text.split(separator, Qt::SkipEmptyParts);
 }
+
+/// Leaves ticking to the press on the whole entry; the box of the entry would tick it back.
+class EntryDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool editorEvent(QEvent *, QAbstractItemModel *, const QStyleOptionViewItem &,
+                     const QModelIndex &) override
+    {
+        return false;
+    }
+};
 
 int indexOf(const QListWidgetItem *item)
 {
@@ -42,7 +56,6 @@ QListWidgetItem *addCheckable(QListWidget *list, const QString &text, int index)
 TFCheckCombox::TFCheckCombox(const TFTableModelData::FilterData &row, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
     , m_button(new QToolButton(this))
-    , m_label(makeLabel())
     , m_dm(this)
 {
     buildWidgets();
@@ -64,15 +77,17 @@ void TFCheckCombox::buildWidgets()
     m_list = new QListWidget(m_menu);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setFocusPolicy(Qt::NoFocus);
+    m_list->setItemDelegate(new EntryDelegate(m_list));
     auto *holder = new QWidgetAction(m_menu);
     holder->setDefaultWidget(m_list);
     m_menu->addAction(holder);
     connect(m_list, &QListWidget::itemPressed, this, &TFCheckCombox::slotItemPressed);
     connect(m_list, &QListWidget::itemClicked, this, &TFCheckCombox::slotItemClicked);
 
-    m_label->setBuddy(m_button);
+    QLabel *label = makeLabel();
+    label->setBuddy(m_button);
     QHBoxLayout *layout = makeLayout(6);
-    layout->addWidget(m_label);
+    layout->addWidget(label);
     layout->addWidget(m_button);
     setMaximumWidth(300);
 }
@@ -104,10 +119,12 @@ void TFCheckCombox::slotOnItemDataUpdate(QMap<QString, QString> data)
         m_values.insert(entry.key(), entry.value());
     }
     m_list->setMinimumHeight(qMin(RowHeight * (data.size() + 2), MaximumHeight));
-    m_label->setText(row().Caption);
-    if (!m_texts.isEmpty())
+    showCaption();
+    if (!m_texts.isEmpty()) {
         checkAll(true);
-    rebuildText();
+        rebuildText();
+    }
+    takeAsDefault();
 }
 
 void TFCheckCombox::selectDefault()
@@ -172,19 +189,18 @@ void TFCheckCombox::slotCheckStatusChanged(QListWidgetItem *item, bool checked)
         m_allItem->setCheckState(m_checked.size() == m_texts.size() ? Qt::Checked : Qt::Unchecked);
     }
     rebuildText();
-    if (!m_menu->isVisible())
-        m_button->showMenu();
+    // The menu stays open for further ticks; a control that is not on the screen has nothing to open.
+    if (m_button->isVisible() && !m_menu->isVisible())
+        QMetaObject::invokeMethod(m_button, &QToolButton::showMenu, Qt::QueuedConnection);
 }
 
 void TFCheckCombox::rebuildText()
 {
-    if (m_checked.size() == m_texts.size()) {
-        m_button->setText(QStringLiteral("All"));
-        return;
-    }
-    const QString text = checkedTexts().join(QLatin1Char(';'));
-    m_button->setToolTip(text);
+    const bool isAll = m_checked.size() == m_texts.size();
+    const QString text = isAll ? QStringLiteral("All") : checkedTexts().join(QLatin1Char(';'));
+    m_button->setToolTip(isAll ? QString() : text);
     m_button->setText(m_button->fontMetrics().elidedText(text, Qt::ElideRight, MaximumTextWidth));
+    markChange();
 }
 
 QStringList TFCheckCombox::checkedTexts() const

@@ -6,7 +6,6 @@
 #include <QList>
 #include <QMap>
 
-class QLabel;
 class QListWidget;
 class QListWidgetItem;
 class QMenu;
@@ -47,7 +46,6 @@ private:
     QToolButton *m_button;
     QMenu *m_menu = nullptr;
     QListWidget *m_list = nullptr;
-    QLabel *m_label;
     QList<int> m_checked;
     QMap<int, QString> m_texts;
     QMap<QString, QString> m_values;

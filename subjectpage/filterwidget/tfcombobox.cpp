@@ -24,13 +24,13 @@ constexpr int Growth = 20;
 TFComboBox::TFComboBox(const TFTableModelData::FilterData &row, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
     , m_box(new QComboBox(this))
-    , m_label(makeLabel())
     , m_dm(this)
 {
     m_box->setItemDelegate(new TFFocusDelegate(m_box));
-    m_label->setBuddy(m_box);
+    QLabel *label = makeLabel();
+    label->setBuddy(m_box);
     QHBoxLayout *layout = makeLayout(6);
-    layout->addWidget(m_label);
+    layout->addWidget(label);
     layout->addWidget(m_box);
     connect(this, &TFComboBox::signalItemDataUpdate, this, &TFComboBox::slotOnItemDataUpdate);
     createConnects();
@@ -70,7 +70,7 @@ void TFComboBox::fill()
         m_box->addItems(m_literals.keys());
     }
     selectDefault();
-    m_label->setText(row().Caption);
+    showCaption();
 }
 
 void TFComboBox::fillUnits()
@@ -102,7 +102,7 @@ void TFComboBox::selectDefault()
 {
     const QString wanted = TFFilterDefaults::withoutEquals(row().DefualtValue);
     if (m_isUnitList) {
-        m_box->setCurrentText(wanted);
+        setCurrentText(wanted);
         return;
     }
     for (auto entry = m_literals.constBegin(); entry != m_literals.constEnd(); ++entry) {
@@ -123,6 +123,7 @@ void TFComboBox::slotOnItemDataUpdate(QMap<QString, QString> data)
     }
     const int wanted = widest + NameMargin;
     m_box->setFixedWidth(wanted < m_box->width() ? m_box->width() + Growth : wanted);
+    takeAsDefault();
 }
 
 QVariant TFComboBox::chosenValue() const
@@ -147,5 +148,7 @@ FilterParam::Cntrl TFComboBox::getCntrl() const
 
 void TFComboBox::setCurrentText(const QString &text)
 {
-    m_box->setCurrentText(text);
+    // A document writes the units by the names of the table; the box lists those of the catalogue.
+    const bool isSourceName = m_isUnitList && m_box->findText(text) < 0;
+    m_box->setCurrentText(isSourceName ? QObject::tr(text.toUtf8().constData()) : text);
 }

@@ -7,7 +7,6 @@
 #include <QVariant>
 
 class QComboBox;
-class QLabel;
 
 /// One choice out of a list: fixed pairs, units of a category, cached codes, or names from the data service.
 ///
@@ -41,7 +40,6 @@ private:
     QVariant chosenValue() const;
 
     QComboBox *m_box;
-    QLabel *m_label;
     QMap<QString, QVariant> m_literals;
     bool m_isUnitList = false;
     int m_unitCategory = -1;

@@ -12,9 +12,9 @@ TFDateEdit::TFDateEdit(const TFTableModelData::FilterData &row, QWidget *parent)
 {
     QHBoxLayout *layout = makeLayout(6);
     QLabel *label = makeLabel();
-    label->setText(row.Caption);
     label->setBuddy(m_edit);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_edit);
     const QDate date = TFFilterDefaults::literalDate(row.DefualtValue);
     if (date.isValid())

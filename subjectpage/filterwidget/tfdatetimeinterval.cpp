@@ -16,10 +16,10 @@ TFDatetimeInterval::TFDatetimeInterval(const TFTableModelData::FilterData &row, 
     , m_functions(TFCustomMath::instance())
 {
     QHBoxLayout *layout = makeLayout(2);
-    QLabel *label = makeLabel();
-    label->setText(row.Caption);
+    QLabel *label = makeLabel(2);
     label->setBuddy(m_start);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_start);
     layout->addWidget(new QLabel(QStringLiteral("一"), this));
     layout->addWidget(m_end);

@@ -23,10 +23,10 @@ TFDecimalTextEditInterval::TFDecimalTextEditInterval(const TFTableModelData::Fil
     , m_end(makeBox(stepOf(row.ControlParameters)))
 {
     QHBoxLayout *layout = makeLayout(2);
-    QLabel *label = makeLabel();
-    label->setText(row.Caption);
+    QLabel *label = makeLabel(2);
     label->setBuddy(m_start);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_start);
     layout->addWidget(new QLabel(QStringLiteral("-"), this));
     layout->addWidget(m_end);

@@ -99,8 +99,11 @@ TFBaseFilterWidget *TFFilterCtlFactory::createWidget(const TFTableModelData::Fil
     if (row.ClassName.isEmpty())
         return nullptr;
     for (const Rule &rule : Rules) {
-        if (rule.holds(row.ClassName))
-            return rule.maker(row, bar);
+        if (!rule.holds(row.ClassName))
+            continue;
+        TFBaseFilterWidget *control = rule.maker(row, bar);
+        control->takeAsDefault();
+        return control;
     }
     qCDebug(lcFilter) << "\n--------------not suports no contains-------------\n ";
     qCDebug(lcFilter) << "not suports no contains: " << row.ClassName << row.Caption;

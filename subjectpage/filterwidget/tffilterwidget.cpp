@@ -152,8 +152,10 @@ void TFFilterWidget::setUnitText(const QString &text)
     for (TFBaseFilterWidget *control : qAsConst(m_controls)) {
         if (control->objectName() != QLatin1String("UnitFactorCombobox"))
             continue;
-        if (auto *units = qobject_cast<TFComboBox *>(control))
+        if (auto *units = qobject_cast<TFComboBox *>(control)) {
             units->setCurrentText(text);
+            units->takeAsDefault();
+        }
         return;
     }
 }

@@ -15,9 +15,9 @@ TFLineEdit::TFLineEdit(const TFTableModelData::FilterData &row, QWidget *parent)
     QHBoxLayout *layout = makeLayout(6);
     layout->setContentsMargins(10, 0, 0, 0);
     QLabel *label = makeLabel();
-    label->setText(row.Caption);
     label->setBuddy(m_edit);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_edit);
 }
 

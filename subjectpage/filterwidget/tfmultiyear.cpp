@@ -57,7 +57,6 @@ TFMultiYear::TFMultiYear(const TFTableModelData::FilterData &row, Choice choice,
     : TFBaseFilterWidget(row, parent)
     , m_button(new QToolButton(this))
     , m_menu(new QMenu(m_button))
-    , m_label(makeLabel())
     , m_many(choice == Choice::Many)
 {
     m_button->setPopupMode(QToolButton::MenuButtonPopup);
@@ -65,9 +64,10 @@ TFMultiYear::TFMultiYear(const TFTableModelData::FilterData &row, Choice choice,
     m_button->setFixedWidth(ButtonWidth);
     m_button->setMenu(m_menu);
     connect(m_button, &QToolButton::clicked, m_button, &QToolButton::showMenu);
-    m_label->setBuddy(m_button);
+    QLabel *label = makeLabel();
+    label->setBuddy(m_button);
     QHBoxLayout *layout = makeLayout(6);
-    layout->addWidget(m_label);
+    layout->addWidget(label);
     layout->addWidget(m_button);
     fill();
     selectDefault();
@@ -124,7 +124,7 @@ bool TFMultiYear::fillFromNameValues()
 
 void TFMultiYear::selectDefault()
 {
-    m_label->setText(row().Caption);
+    showCaption();
     if (m_texts.isEmpty())
         return;
     QString text = TFFilterDefaults::withoutEquals(row().DefualtValue).left(4);
@@ -139,6 +139,14 @@ void TFMultiYear::selectDefault()
         if (action->data().toInt() == index)
             action->setChecked(true);
     }
+    rebuildText();
+}
+
+void TFMultiYear::rebuildText()
+{
+    m_button->setText(chosenTexts().join(QLatin1Char(';')));
+    m_button->setToolTip(m_button->text());
+    markChange();
 }
 
 QStringList TFMultiYear::chosenTexts() const
@@ -159,8 +167,7 @@ void TFMultiYear::slotActionCheckStatusChanged(bool checked)
         m_chosen.removeAll(index);
     else if (!m_chosen.contains(index))
         m_chosen.append(index);
-    m_button->setText(chosenTexts().join(QLatin1Char(';')));
-    m_button->setToolTip(m_button->text());
+    rebuildText();
     // The menu stays open for further ticks; a bar that is not on the screen has nothing to open.
     if (m_button->isVisible())
         QMetaObject::invokeMethod(m_button, &QToolButton::showMenu, Qt::QueuedConnection);
@@ -170,6 +177,7 @@ void TFMultiYear::slotActionClickStatusChanged(bool)
 {
     if (const auto *action = qobject_cast<QAction *>(sender()))
         m_button->setText(action->text());
+    markChange();
 }
 
 FilterParam::Cntrl TFMultiYear::getCntrl() const

@@ -5,7 +5,6 @@
 #include <QList>
 #include <QMap>
 
-class QLabel;
 class QMenu;
 class QToolButton;
 
@@ -30,11 +29,11 @@ private:
     bool fillFromNameValues();
     void addYear(int index, const QString &text);
     void selectDefault();
+    void rebuildText();
     QStringList chosenTexts() const;
 
     QToolButton *m_button;
     QMenu *m_menu;
-    QLabel *m_label;
     bool m_many;
     QList<int> m_chosen;
     QMap<int, QString> m_texts;

@@ -8,23 +8,41 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 constexpr int FirstYear = 1992;
 const QLatin1String HalfYearClass("ReportDateSimple5");
 const QLatin1String QuarterClass("ReportDateSimple2");
+
+struct Period
+{
+    const char *name; ///< a catalogue gives its own, the one that it gives the entry of the box
+    int months;
+};
+
+const Period Periods[] = {
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "一季度"), 3},
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "二季度"), 6},
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "半年报"), 6},
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "三季度"), 9},
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "四季度"), 12},
+    {QT_TRANSLATE_NOOP("TFReportDateSimple", "年度"), 12},
+};
 } // namespace
 
 TFReportDateSimple::TFReportDateSimple(const TFTableModelData::FilterData &row, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
     , m_year(new QComboBox(this))
     , m_period(new QComboBox(this))
-    , m_label(makeLabel())
 {
     m_year->setItemDelegate(new TFFocusDelegate(m_year));
     m_period->setItemDelegate(new TFFocusDelegate(m_period));
-    m_label->setBuddy(m_year);
+    QLabel *label = makeLabel();
+    label->setBuddy(m_year);
     QHBoxLayout *layout = makeLayout(6);
-    layout->addWidget(m_label);
+    layout->addWidget(label);
     layout->addWidget(m_year);
     layout->addWidget(m_period);
     fillYears();
@@ -34,10 +52,9 @@ TFReportDateSimple::TFReportDateSimple(const TFTableModelData::FilterData &row, 
 
 int TFReportDateSimple::monthsOfPeriod(const QString &name)
 {
-    static const QMap<QString, int> months{{QStringLiteral("一季度"), 3},  {QStringLiteral("二季度"), 6},
-                                           {QStringLiteral("半年报"), 6},  {QStringLiteral("三季度"), 9},
-                                           {QStringLiteral("四季度"), 12}, {QStringLiteral("年度"), 12}};
-    return months.value(name, 0);
+    const auto period = std::find_if(std::begin(Periods), std::end(Periods),
+                                     [&name](const Period &p) { return tr(p.name) == name; });
+    return period == std::end(Periods) ? 0 : period->months;
 }
 
 void TFReportDateSimple::fillYears()
@@ -70,11 +87,12 @@ void TFReportDateSimple::fillPeriods()
 
 void TFReportDateSimple::selectDefault()
 {
-    m_label->setText(row().Caption);
-    const QString text = row().DefualtValue;
+    showCaption();
+    QString text = row().DefualtValue;
     if (!text.contains(QLatin1String("date")))
         return; // a default that is a call selects nothing: the boxes stay on their first entries
-    const QDate date = TFFilterDefaults::literalDate(text);
+    text.remove(QLatin1String("=date")).remove(QLatin1Char('\''));
+    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
     if (!date.isValid())
         return;
     m_year->setCurrentText(QString::number(date.year()) + TFFilterDefaults::yearSuffix());

@@ -6,7 +6,6 @@
 #include <QVariant>
 
 class QComboBox;
-class QLabel;
 
 /// A year and a report period. Reports the last day of the period.
 class TFReportDateSimple : public TFBaseFilterWidget
@@ -28,7 +27,6 @@ private:
 
     QComboBox *m_year;
     QComboBox *m_period;
-    QLabel *m_label;
     QMap<QString, QVariant> m_years;
     QMap<QString, QVariant> m_periods;
 };

@@ -30,11 +30,11 @@ TFYearMonthInterval::TFYearMonthInterval(const TFTableModelData::FilterData &row
     , m_endYear(makeBox(yearsOf(row.NameValues)))
     , m_endMonth(makeBox(TFFilterDefaults::months()))
 {
-    QLabel *label = makeLabel();
-    label->setText(row.Caption);
+    QLabel *label = makeLabel(2);
     label->setBuddy(m_startYear);
     QHBoxLayout *layout = makeLayout(2);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_startYear);
     layout->addWidget(m_startMonth);
     layout->addWidget(new QLabel(QStringLiteral("-"), this));

@@ -21,13 +21,17 @@ TFYearMonthSimple::TFYearMonthSimple(const TFTableModelData::FilterData &row, QW
     m_year->addItems(TFFilterDefaults::yearsDownTo(FirstYear));
     m_month->addItems(TFFilterDefaults::months());
     QLabel *label = makeLabel();
-    label->setText(row.Caption);
     label->setBuddy(m_year);
     QHBoxLayout *layout = makeLayout(6);
     layout->addWidget(label);
+    showCaption();
     layout->addWidget(m_year);
     layout->addWidget(m_month);
-    const QDate date = TFFilterDefaults::literalDate(row.DefualtValue);
+    // Quotes belong to a literal; a text without its word is taken as it stands.
+    const bool isLiteral = row.DefualtValue.contains(QLatin1String("date"));
+    const QDate date = isLiteral ? TFFilterDefaults::literalDate(row.DefualtValue)
+                                 : QDate::fromString(TFFilterDefaults::withoutEquals(row.DefualtValue),
+                                                     QStringLiteral("yyyy-MM-dd"));
     if (!date.isValid())
         return;
     m_year->setCurrentText(QString::number(date.year()) + TFFilterDefaults::yearSuffix());

@@ -7,13 +7,18 @@
 #include "filterwidget/tffilterwidget.h"
 #include "records/tfclock.h"
 #include "subjecttest.h"
+#include "tfcore/tfserviceconfig.h"
+#include "tftranslations.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QSpinBox>
 #include <QToolButton>
 
 using Row = TFTableModelData::FilterData;
@@ -49,6 +54,21 @@ QString reported(const TFBaseFilterWidget *control)
         return QStringLiteral("-");
     return QStringLiteral("%1 | %2 | %3 | %4%5")
         .arg(c.key, c.op, c.valueType, text(c.value), c.multiField ? QStringLiteral(" *") : QString());
+}
+
+/// Another value, as a user would choose it.
+void change(TFBaseFilterWidget *control)
+{
+    if (auto *edit = control->findChild<QLineEdit *>(QString(), Qt::FindDirectChildrenOnly))
+        edit->setText("x");
+    else if (auto *date = control->findChild<QDateEdit *>())
+        date->setDate(QDate(2021, 1, 1));
+    else if (auto *number = control->findChild<QSpinBox *>())
+        number->setValue(7);
+    else if (auto *box = control->findChild<QComboBox *>())
+        box->setCurrentIndex(1);
+    else
+        control->findChild<QMenu *>()->actions().last()->trigger();
 }
 } // namespace
 
@@ -270,6 +290,68 @@ private slots:
             entries.insert(QString::number(i), QString::number(i));
         box.slotOnItemDataUpdate(entries);
         QCOMPARE(box.findChild<QListWidget *>()->minimumHeight(), 510);
+    }
+
+    void pressOnTheBoxOfAnEntryTicksItOnce()
+    {
+        Row r = row("CheckComboBox", "", "string");
+        r.NameValues = "a=a;b=b;c=c";
+        TFFilterWidget bar;
+        TFCheckCombox box(r, &bar);
+        auto *list = box.findChild<QListWidget *>();
+        list->resize(200, 200);
+        const QRect entry = list->visualItemRect(list->item(2));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          entry.topLeft() + QPoint(8, entry.height() / 2));
+        QCOMPARE(reported(&box), QString("F | == | stringList | [a|c]"));
+    }
+
+    void dotTellsAControlThatIsNotOnItsDefault_data()
+    {
+        QTest::addColumn<QString>("className");
+        for (const char *name : {"TextEdit", "DateEdit", "DecimalTextEditInterval", "ComboBox", "SimpleYear"})
+            QTest::newRow(name) << QString(name);
+    }
+    void dotTellsAControlThatIsNotOnItsDefault()
+    {
+        QFETCH(QString, className);
+        Row r = row(className);
+        r.NameValues = "2020年=1;2019年=2";
+        TFFilterWidget bar;
+        auto *control = TFFilterCtlFactory::createWidget(r, &bar);
+        const auto *dot = control->findChild<QWidget *>("filterChangedMark");
+        QVERIFY(dot->isHidden());
+        change(control);
+        QVERIFY(!dot->isHidden());
+        control->takeAsDefault();
+        QVERIFY(dot->isHidden());
+    }
+
+    void catalogueNamesPeriodsAndSuffixes_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("Chinese") << int(TFServiceConfig::Chinese) << "2019年|半年报";
+        QTest::newRow("English") << int(TFServiceConfig::English) << "2019年|Half year";
+    }
+    void catalogueNamesPeriodsAndSuffixes()
+    {
+        QFETCH(int, language);
+        TFServiceConfig::instance()->setCurrentLang(language);
+        QVERIFY(TFTranslations::install());
+        Row r = row("ReportDateSimple5", "=date'2019-06-30'");
+        r.ParameterCategory = "1";
+        {
+            TFFilterWidget bar;
+            const auto *control = TFFilterCtlFactory::createWidget(r, &bar);
+            const auto boxes = control->findChildren<QComboBox *>();
+            QTEST(boxes.first()->currentText() + '|' + boxes.last()->currentText(), "shown");
+            QCOMPARE(control->getCntrl().value.toString(), QString("2019-06-30"));
+            const auto *month = TFFilterCtlFactory::createWidget(row("YearMonthSimple", "2019-03-01"), &bar);
+            QCOMPARE(month->getCntrl().value.toString(), QString("201903"));
+        }
+        TFTranslations::remove();
+        TFServiceConfig::instance()->setCurrentLang(TFServiceConfig::Chinese);
     }
 
     void reportPeriodGoesOutByItsCategory_data()
