@@ -2,9 +2,11 @@
 
 #include "tffilterdefaults.h"
 
+#include <QCalendarWidget>
 #include <QDateEdit>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTextCharFormat>
 
 TFDateEdit::TFDateEdit(const TFTableModelData::FilterData &row, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
@@ -26,6 +28,9 @@ QDateEdit *TFDateEdit::makeEditor(QWidget *parent)
     auto *edit = new QDateEdit(parent);
     edit->setCalendarPopup(true);
     edit->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    // The red that a calendar gives its weekends can't be read on a dark ground.
+    edit->calendarWidget()->setWeekdayTextFormat(Qt::Saturday, QTextCharFormat());
+    edit->calendarWidget()->setWeekdayTextFormat(Qt::Sunday, QTextCharFormat());
     return edit;
 }
 

@@ -1,0 +1,173 @@
+#include "filterwidget/tfbasefilterwidget.h"
+#include "filterwidget/tffilterwidget.h"
+#include "jsonparser/tffilterjsontable.h"
+#include "records/tfclock.h"
+#include "tfcore/itfskin.h"
+#include "tfcore/tfcore.h"
+#include "tfcore/tfskinpalette.h"
+#include "tftranslations.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QStyleFactory>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <cstdio>
+
+using Rows = QList<TFTableModelData::FilterData>;
+
+namespace {
+struct Picture
+{
+    QString name;
+    Rows rows;
+};
+
+/// The examples of docs/filters.md: each block of JSON, with the name of the picture behind it.
+QList<Picture> readExamples(const QString &document)
+{
+    QList<Picture> pictures;
+    QFile file(document);
+    if (!file.open(QIODevice::ReadOnly))
+        return pictures;
+    const QStringList sections = QString::fromUtf8(file.readAll()).split(QStringLiteral("```json\n"));
+    for (const QString &section : sections.mid(1)) {
+        const QString json = section.section(QStringLiteral("\n```"), 0, 0);
+        const QString picture =
+            section.section(QStringLiteral("filters-"), 1).section(QStringLiteral(".png"), 0, 0);
+        TFFilterJsonTable table;
+        table.initWith('[' + json + ']');
+        pictures.append({picture, table.filters()});
+    }
+    return pictures;
+}
+
+/// Takes a style sheet of the skin, as the terminal's window and a page do.
+class Skinned : public QWidget, public ITFSkin
+{
+public:
+    Skinned(const QString &sheet, QWidget *parent)
+        : QWidget(parent)
+    {
+        TFCore::instance()->addStyle2View(this, sheet);
+    }
+
+    QWidget *object() override { return this; }
+    void applySkinStyle(const QVariant &style) override { setStyleSheet(style.toString()); }
+};
+
+/// A bar as it looks in a page.
+class Stage : public Skinned
+{
+public:
+    explicit Stage(const Rows &rows)
+        : Skinned(QStringLiteral("terminal.css"), nullptr)
+        , bar(new TFFilterWidget)
+    {
+        auto *page = new Skinned(QStringLiteral("subject/subject.css"), this);
+        for (QWidget *outer : {static_cast<QWidget *>(this), static_cast<QWidget *>(page)}) {
+            auto *column = new QVBoxLayout(outer);
+            column->setContentsMargins(0, 0, 0, 0);
+            column->addWidget(outer == page ? static_cast<QWidget *>(bar) : page);
+        }
+        bar->setFilterData(rows);
+    }
+
+    TFFilterWidget *bar;
+};
+
+bool save(QWidget &widget, const QString &file)
+{
+    QApplication::processEvents();
+    if (QWidget *focused = QApplication::focusWidget())
+        focused->clearFocus();
+    const bool isWritten = widget.grab().save(file);
+    if (!isWritten)
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+    return isWritten;
+}
+
+/// One picture an example, as narrow as the controls.
+bool drawExamples(const QList<Picture> &examples, const QString &folder)
+{
+    for (const Picture &example : examples) {
+        Stage stage(example.rows);
+        stage.show();
+        int width = 5;
+        for (const auto *control : stage.bar->findChildren<TFBaseFilterWidget *>())
+            width += control->isHidden() ? 0 : control->sizeHint().width() + 12;
+        stage.resize(qMax(60, width), 36);
+        if (!save(stage, folder + "/filters-" + example.name + ".png"))
+            return false;
+    }
+    return true;
+}
+
+/// All examples in one bar, some of them changed, and what pops up from them.
+bool drawBar(const QList<Picture> &examples, const QString &prefix)
+{
+    Rows rows;
+    for (const Picture &example : examples)
+        rows += example.rows;
+    Stage stage(rows);
+    stage.resize(1000, 200);
+    stage.show();
+    stage.bar->findChild<QLineEdit *>()->setText(QStringLiteral("银行"));
+    stage.bar->findChild<QComboBox *>()->setCurrentIndex(1);
+    if (!save(stage, prefix + "-bar.png"))
+        return false;
+    auto *list = stage.bar->findChild<QListWidget *>();
+    QWidget *menu = list->parentWidget();
+    menu->adjustSize();
+    QCalendarWidget *calendar = stage.bar->findChild<QDateEdit *>()->calendarWidget();
+    calendar->setSelectedDate(QDate(2020, 7, 31));
+    auto *box = stage.bar->findChild<QComboBox *>();
+    box->showPopup();
+    return save(*menu, prefix + "-ticks.png") && save(*calendar, prefix + "-calendar.png") &&
+           save(*box->view()->window(), prefix + "-list.png");
+}
+} // namespace
+
+/// Draws the pictures of docs/filters.md from its own examples: filter-pictures DOCUMENT FOLDER [SKIN]. With
+/// a skin it draws the whole bar and its popups in that skin instead.
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QFont font(QStringLiteral("WenQuanYi Micro Hei"));
+    font.setPixelSize(12);
+    QApplication::setFont(font);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 3) {
+        std::fprintf(stderr, "usage: filter-pictures DOCUMENT FOLDER [SKIN]\n");
+        return 2;
+    }
+    TFCore *core = TFCore::instance();
+    core->setSkinRoot(QStringLiteral(SKIN_FOLDER));
+    const QString skin = arguments.value(3, QStringLiteral("white"));
+    const QPalette plain = QApplication::palette();
+    QObject::connect(core, &TFCore::signalSkinChanged, &app,
+                     [plain] { QApplication::setPalette(TFSkinPalette::current(plain)); });
+    if (!core->setCurrentSkin(skin))
+        return 2;
+    TFTranslations::install();
+    TFClock::setNow([] { return QDateTime(QDate(2021, 5, 20), QTime(10, 0)); });
+    const QList<Picture> examples = readExamples(arguments.at(1));
+    const QString folder = arguments.at(2);
+    const bool isDrawn =
+        arguments.size() > 3 ? drawBar(examples, folder + '/' + skin) : drawExamples(examples, folder);
+    return isDrawn ? 0 : 1;
+}
