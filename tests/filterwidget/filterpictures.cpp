@@ -1,5 +1,6 @@
 #include "filterwidget/tfbasefilterwidget.h"
 #include "filterwidget/tffilterwidget.h"
+#include "filterwidget/tfsortview.h"
 #include "jsonparser/tffilterjsontable.h"
 #include "records/tfclock.h"
 #include "tfcore/itfskin.h"
@@ -138,6 +139,16 @@ bool drawBar(const QList<Picture> &examples, const QString &prefix)
     return save(*menu, prefix + "-ticks.png") && save(*calendar, prefix + "-calendar.png") &&
            save(*box->view()->window(), prefix + "-list.png");
 }
+
+bool drawSortDialog(const QString &file)
+{
+    Skinned page(QStringLiteral("terminal.css"), nullptr);
+    TFSortView view({QStringLiteral("最新价"), QStringLiteral("涨跌幅")}, &page);
+    view.on_pushButton_2_clicked();
+    view.on_pushButton_2_clicked();
+    view.show();
+    return save(view, file);
+}
 } // namespace
 
 /// Draws the pictures of docs/filters.md from its own examples: filter-pictures DOCUMENT FOLDER [SKIN]. With
@@ -167,7 +178,8 @@ int main(int argc, char *argv[])
     TFClock::setNow([] { return QDateTime(QDate(2021, 5, 20), QTime(10, 0)); });
     const QList<Picture> examples = readExamples(arguments.at(1));
     const QString folder = arguments.at(2);
-    const bool isDrawn =
-        arguments.size() > 3 ? drawBar(examples, folder + '/' + skin) : drawExamples(examples, folder);
-    return isDrawn ? 0 : 1;
+    if (arguments.size() <= 3)
+        return drawExamples(examples, folder) ? 0 : 1;
+    const QString prefix = folder + '/' + skin;
+    return drawBar(examples, prefix) && drawSortDialog(prefix + "-sort.png") ? 0 : 1;
 }
