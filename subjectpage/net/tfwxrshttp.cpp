@@ -8,10 +8,28 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QNetworkSession>
+#include <QSharedPointer>
 #include <QSslConfiguration>
+#include <QSslError>
 #include <QThread>
 
+#include <mutex>
+
 namespace {
+/// The toolkit registers the types of its network classes at their first use, and not safely: two first
+/// requests at once would register a conversion twice.
+void registerNetworkTypes()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        qRegisterMetaType<QSharedPointer<QNetworkSession>>();
+        qRegisterMetaType<QList<QSslError>>();
+        qRegisterMetaType<QList<QPair<QByteArray, QByteArray>>>();
+        QNetworkAccessManager registersTheRest;
+    });
+}
+
 constexpr char TokenHeader[] = "kvt-token";
 constexpr char FormatHeader[] = "kvt-format";
 constexpr char LanguageHeader[] = "kvt-language";
@@ -73,6 +91,7 @@ TFWXRSHttp::Headers TFWXRSHttp::headers(const QString &token, const QString &for
 
 TFWXRSHttp::HttpResult TFWXRSHttp::post(const QUrl &url, const QByteArray &body, const Headers &headers)
 {
+    registerNetworkTypes();
     // A manager of its own for each call: a kept connection waits for the server's delayed acknowledgement.
     QNetworkAccessManager manager;
     manager.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
