@@ -23,7 +23,10 @@ void registerNetworkTypes()
 {
     static std::once_flag once;
     std::call_once(once, [] {
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
         qRegisterMetaType<QSharedPointer<QNetworkSession>>();
+        QT_WARNING_POP
         qRegisterMetaType<QList<QSslError>>();
         qRegisterMetaType<QList<QPair<QByteArray, QByteArray>>>();
         QNetworkAccessManager registersTheRest;
