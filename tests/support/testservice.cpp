@@ -98,6 +98,8 @@ void TestService::answer(QTcpSocket *socket, const Answer &answer)
         socket->abort();
         return;
     }
+    if (socket->state() != QAbstractSocket::ConnectedState)
+        return; // the client has gone in the meantime
     QByteArray head =
         "HTTP/1.1 " + QByteArray::number(answer.status) + " Answer\r\nConnection: close\r\n" +
         "Content-Type: application/json\r\nContent-Length: " + QByteArray::number(answer.text.size()) +
