@@ -41,6 +41,17 @@ target_sources(subjectui PRIVATE
     tfviewfactory.cpp tfviewfactory.h
 )
 
+# The export into a workbook.
+target_sources(subjectcore PRIVATE
+    tfexcelwritter.cpp tfexcelwritter.h
+    tfexcelwritterjob.cpp tfexcelwritterjob.h
+)
+target_link_libraries(subjectcore PRIVATE QXlsx::QXlsx)
+target_sources(subjectui PRIVATE
+    tfsubjecttableexport.cpp tfsubjecttableexport.h
+    tfsubjecttableexportprogress.cpp tfsubjecttableexportprogress.h
+)
+
 # The page and its frame.
 target_sources(subjectui PRIVATE
     tfsubjectmainframe.cpp tfsubjectmainframe.h

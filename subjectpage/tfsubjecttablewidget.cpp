@@ -11,6 +11,7 @@
 #include "pagination/tfpaginationbar.h"
 #include "records/tfcategories.h"
 #include "tfloadingline.h"
+#include "tfsubjecttableexport.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -35,6 +36,7 @@ TFSubjectTableWidget::TFSubjectTableWidget(QWidget *parent, bool isMain)
     , m_gridHolder(new TFTableGridHolder(this))
     , m_dm(std::make_unique<TFDm>(this))
     , m_loadingLine(new TFLoadingLine(this))
+    , m_export(new TFSubjectTableExport(this))
 {
     createConnections();
 }

@@ -11,6 +11,7 @@ class TFDm;
 class TFFilterWidget;
 class TFLoadingLine;
 class TFPaginationBar;
+class TFSubjectTableExport;
 class TFSubjectTableModel;
 class TFSujectTableView;
 class TFTableGridHolder;
@@ -55,6 +56,7 @@ public:
     TFPaginationBar *paginationBar() const { return m_pageBar; }
     TFTreeStruct *header() const { return m_header.get(); }
     TFSubject::TFJsonParser *parser() const { return m_parser; }
+    TFSubjectTableExport *tableExport() const { return m_export; }
 
     void clear() override;
     bool parseConfig(const QJsonValue &json, bool isNew) override;
@@ -83,9 +85,6 @@ signals:
     void updateChildren();
     void clearChildren();
     void signalCurrentPageChanged(int currentPage);
-    /// All rows of the view as plain values, ready for a workbook. \a type 0 opens the file, others ask where
-    /// to put it.
-    void rowsToExport(int type, const QList<QList<QVariant>> &rows);
 
 public slots:
     /// Shows \a link under the title \a errorMsg; returns when the user has closed the box.
@@ -131,4 +130,5 @@ private:
     TFUc::TFRequestContent m_appliedContent; ///< the request whose rows are on the screen
     TFUc::TFRequestContent m_sentContent;    ///< the last one that went out
     TFLoadingLine *m_loadingLine;
+    TFSubjectTableExport *m_export;
 };

@@ -16,6 +16,7 @@
 #include "records/tfcategories.h"
 #include "tfcore/invokerbase.h"
 #include "tfcore/tfcore.h"
+#include "tfsubjecttableexport.h"
 
 #include <QSignalBlocker>
 
@@ -249,16 +250,5 @@ void TFSubjectTableWidget::exportRows(int type)
 {
     const TFUc::TFRequestContent content = TFUc::viewDataRequest(
         viewId(), requestParameters(), filters(), {true, m_pageBar->currentPage(), m_pageBar->perCnt()});
-    m_dm->startRequest(content, [this, type](bool isOk, const QByteArray &data) {
-        if (!isOk) {
-            qCDebug(lcExport) << "isOk:" << isOk << data;
-            return;
-        }
-        QList<QList<QVariant>> rows;
-        if (!m_parser->parseData(data, &rows, m_header.get())) {
-            qCWarning(lcExport) << "parse data failed";
-            return;
-        }
-        emit rowsToExport(type, rows);
-    });
+    m_export->exportRows(type, content, m_parser, m_header.get());
 }

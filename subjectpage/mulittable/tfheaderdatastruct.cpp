@@ -37,6 +37,16 @@ TFTreeStruct::~TFTreeStruct()
     qDeleteAll(m_children);
 }
 
+std::unique_ptr<TFTreeStruct> TFTreeStruct::clone() const
+{
+    auto copy = std::make_unique<TFTreeStruct>(m_displayCaption);
+    copy->m_info = m_info;
+    copy->m_currentUnit = m_currentUnit;
+    for (const TFTreeStruct *child : m_children)
+        copy->addChild(child->clone().release());
+    return copy;
+}
+
 void TFTreeStruct::addChild(TFTreeStruct *child)
 {
     child->m_parent = this;

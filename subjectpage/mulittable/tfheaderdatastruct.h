@@ -5,6 +5,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <memory>
+
 /// A node of the band header tree: inner nodes are bands, leaves are data columns.
 ///
 /// The index of a leaf in the root's leaves() is the column index in the model and the cell index in a row.
@@ -19,6 +21,9 @@ public:
     explicit TFTreeStruct(const HeaderFieldInfo &info);
     ~TFTreeStruct();
     Q_DISABLE_COPY(TFTreeStruct)
+
+    /// A tree of its own that shows the same captions, without a parent.
+    std::unique_ptr<TFTreeStruct> clone() const;
 
     const HeaderFieldInfo &info() const { return m_info; }
     TFTreeStruct *parent() const { return m_parent; }

@@ -35,7 +35,7 @@ QUrl TestService::url() const
 
 QByteArray TestService::envelope(const QJsonValue &data)
 {
-    const QJsonObject reply{{"state", 0}, {"msg", "ok"}, {"extend", QJsonValue()}, {"data", data}};
+    const QJsonObject reply{{"state", 1}, {"msg", "ok"}, {"extend", QJsonValue()}, {"data", data}};
     return QJsonDocument(reply).toJson(QJsonDocument::Compact);
 }
 

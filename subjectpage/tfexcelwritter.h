@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+#include <functional>
+
+class TFTreeStruct;
+
+namespace QXlsx {
+class Document;
+class Format;
+} // namespace QXlsx
+
+/// Writes a table to the current sheet of a workbook: the band header as merged cells, the rows as typed
+/// cells.
+///
+/// Rows and columns count from 1. The workbook library keeps tables of its own without a lock: no two threads
+/// of a process may write workbooks at the same time.
+class TFExcelWritter
+{
+public:
+    /// Told now and then how many rows are written; false ends the writing.
+    using KeepGoing = std::function<bool(int rows)>;
+
+    /// Writes the bands and columns below the root \a header, the tallest ones from row 1 on. A hidden node
+    /// is left out with all below it; its columns stay empty. Always true.
+    static bool writeHeader(QXlsx::Document &doc, TFTreeStruct *header);
+
+    /// Writes \a rows from row \c header->depth() on. Values of hidden leaves are left out and the columns
+    /// close up, so that they can stand apart from the header. The number format of a double, an int or a
+    /// date stays in force for the values of other types after it, to the end of the sheet. False only when
+    /// \a keepGoing said so. What a sheet can't hold is left out with a warning.
+    static bool writeData(QXlsx::Document &doc, TFTreeStruct *header, const QList<QList<QVariant>> &rows,
+                          const KeepGoing &keepGoing = {});
+
+    /// Writes the caption of \a node, merged over the columns of its leaves, and its subtree below it.
+    static void writeCellItem(TFTreeStruct *node, QXlsx::Document &doc, int row, int col,
+                              const QXlsx::Format &format);
+
+    /// Such as "A1" or "CZ7"; the letters go on after "CZ" as in "DA".
+    static QString cellName(int row, int col);
+};

@@ -1,0 +1,258 @@
+#include "tfsubjecttableexport.h"
+
+#include "jsonparser/tfjsonparser.h"
+#include "mulittable/tfheaderdatastruct.h"
+#include "net/tfdm.h"
+#include "records/tfancestors.h"
+#include "records/tfcategories.h"
+#include "records/tfclock.h"
+#include "tfexcelwritterjob.h"
+#include "tfsubjecttableexportprogress.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace {
+constexpr int kOpenType = 0;
+constexpr int kPollInterval = 50; ///< milliseconds
+const char kMainFrameClass[] = "TFSubjectMainFrame";
+const QString kSuffix = QStringLiteral(".xlsx");
+
+QString chooseFile(QWidget *parent, const QString &caption, const QString &start, const QString &filter)
+{
+    return QFileDialog::getSaveFileName(parent, caption, start, filter);
+}
+
+/// "a" gives "a(1)"; "a(1)" gives "a(1)(1)".
+QString nextBaseName(const QString &base)
+{
+    if (base.endsWith(QLatin1Char(')')))
+        return base + QStringLiteral("(1)");
+    const int opening = base.lastIndexOf(QLatin1Char('('));
+    const int number = base.mid(opening, base.lastIndexOf(QLatin1Char(')'))).toInt();
+    return QStringLiteral("%1(%2)").arg(base.left(opening)).arg(number + 1);
+}
+
+/// Whether somebody holds the file. Leaves what is in it alone.
+bool isLocked(const QString &path)
+{
+    return QFile::exists(path) && !QFile(path).open(QIODevice::WriteOnly | QIODevice::Append);
+}
+} // namespace
+
+TFSubjectTableExport::TFSubjectTableExport(QWidget *table)
+    : QObject(table)
+    , m_table(table)
+    , m_chooser(chooseFile)
+{
+    m_pollTimer.setInterval(kPollInterval);
+    connect(&m_pollTimer, &QTimer::timeout, this, &TFSubjectTableExport::poll);
+}
+
+TFSubjectTableExport::~TFSubjectTableExport()
+{
+    if (m_job)
+        m_job->giveUp();
+}
+
+void TFSubjectTableExport::exportRows(int type, const TFUc::TFRequestContent &content,
+                                      TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+{
+    if (isBusy())
+        return;
+    beginProgress();
+    m_progress->setStep(tr("正在取数据..."));
+    const auto take = [=, run = m_run](bool isOk, const QByteArray &data) {
+        if (run != m_run || !isBusy())
+            return;
+        if (isOk) {
+            takeReply(type, data, parser, header);
+            return;
+        }
+        qCDebug(lcExport) << "isOk:" << isOk << data;
+        end();
+    };
+    TFDm::startRequest(content, this, take);
+}
+
+void TFSubjectTableExport::takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser,
+                                     TFTreeStruct *header)
+{
+    QList<QList<QVariant>> rows;
+    if (!parser->parseData(data, &rows, header)) {
+        qCWarning(lcExport) << "parse data failed";
+        end();
+        return;
+    }
+    saveRows(type, *header->clone(), rows);
+}
+
+void TFSubjectTableExport::saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows)
+{
+    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(fileName());
+    if (type == kOpenType) {
+        saveAndOpen(uniqueFileName(path), header, rows);
+        return;
+    }
+    hideProgress();
+    const QPointer<TFSubjectTableExport> self(this);
+    const QString chosen =
+        m_chooser(m_table, QStringLiteral("选择文件"), path, QStringLiteral("Excel (*.xlxs)"));
+    if (!self)
+        return;
+    if (chosen.isEmpty())
+        end();
+    else
+        saveWithMessage(chosen, header, rows);
+}
+
+QString TFSubjectTableExport::fileName() const
+{
+    const auto *frame = qobject_cast<QWidget *>(TFAncestors::find(m_table, kMainFrameClass));
+    QString name = frame ? frame->windowTitle() : QString();
+    name.replace(QRegularExpression(QStringLiteral("[:/\\\\]")), QStringLiteral("_"));
+    return (name.isEmpty() ? tr("新建工作簿") : name) + kSuffix;
+}
+
+QString TFSubjectTableExport::uniqueFileName(const QString &path)
+{
+    QString unique = path;
+    while (QFile::exists(unique) && !QFile::remove(unique)) {
+        const QFileInfo info(unique);
+        unique = info.dir().filePath(nextBaseName(info.baseName()) + info.completeSuffix());
+    }
+    return unique;
+}
+
+void TFSubjectTableExport::saveWithMessage(const QString &path, const TFTreeStruct &header,
+                                           const QList<QList<QVariant>> &rows)
+{
+    save(path, header, rows, ShowMessage);
+}
+
+void TFSubjectTableExport::saveAndOpen(const QString &path, const TFTreeStruct &header,
+                                       const QList<QList<QVariant>> &rows)
+{
+    save(path, header, rows, OpenFile);
+}
+
+QString TFSubjectTableExport::askForNewWorkbook()
+{
+    const QString name =
+        QStringLiteral("新建工作簿_") + TFClock::now().toString(QStringLiteral("yyyyMMddhhMMss"));
+    const QString start =
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QDir::separator() + name;
+    return m_chooser(nullptr, QStringLiteral("文件保存"), start, QStringLiteral("Excel工作簿(*.xlsx)"));
+}
+
+void TFSubjectTableExport::save(const QString &path, const TFTreeStruct &header,
+                                const QList<QList<QVariant>> &rows, Ending ending)
+{
+    if (m_job)
+        return;
+    const QPointer<TFSubjectTableExport> self(this);
+    QString target = path.isEmpty() ? askForNewWorkbook() : path;
+    if (!self)
+        return;
+    if (target.isEmpty()) {
+        end();
+        warn(QObject::tr("u8用户已取消"));
+        return;
+    }
+    if (!target.endsWith(kSuffix))
+        target += kSuffix;
+    if (isLocked(target)) {
+        end();
+        warn(QStringLiteral("文件处于占用状态"));
+        return;
+    }
+    if (!isBusy())
+        beginProgress();
+    m_ending = ending;
+    m_job = TFExcelWritterJob::start(target, header, rows);
+    m_pollTimer.start();
+}
+
+void TFSubjectTableExport::beginProgress()
+{
+    ++m_run;
+    m_progress = new TFSubjectTableExportProgress(m_table);
+    connect(m_progress, &QDialog::rejected, this, &TFSubjectTableExport::giveUp);
+}
+
+void TFSubjectTableExport::hideProgress()
+{
+    if (!m_progress)
+        return;
+    m_progress->hide();
+    m_progress->deleteLater();
+    m_progress = nullptr;
+}
+
+void TFSubjectTableExport::end()
+{
+    m_pollTimer.stop();
+    hideProgress();
+    emit ended();
+}
+
+void TFSubjectTableExport::giveUp()
+{
+    if (m_job)
+        m_job->giveUp();
+    m_job.reset();
+    end();
+}
+
+void TFSubjectTableExport::poll()
+{
+    switch (m_job->state()) {
+    case TFExcelWritterJob::Writing:
+        m_progress->setStep(tr("正在写入..."), m_job->writtenRows(), m_job->rowCount());
+        return;
+    case TFExcelWritterJob::Saving:
+        m_progress->setStep(tr("正在保存..."));
+        return;
+    default:
+        break;
+    }
+    const std::shared_ptr<TFExcelWritterJob> job = std::move(m_job);
+    end();
+    showResult(*job);
+}
+
+void TFSubjectTableExport::showResult(const TFExcelWritterJob &job)
+{
+    switch (job.state()) {
+    case TFExcelWritterJob::Saved:
+        break;
+    case TFExcelWritterJob::HeaderFailed:
+        warn(QObject::tr("u8写入表头失败"));
+        return;
+    case TFExcelWritterJob::DataFailed:
+        qCWarning(lcExport) << "export failed:" << job.path() << job.errorText();
+        warn(QObject::tr("u8写入内容失败"));
+        return;
+    default:
+        return;
+    }
+    emit saved(job.path());
+    if (m_ending == OpenFile)
+        QDesktopServices::openUrl(QUrl::fromUserInput(job.path()));
+    else
+        QMessageBox::information(m_table, QStringLiteral("保存成功"), QStringLiteral("文件保存成功"),
+                                 QMessageBox::Ok);
+}
+
+void TFSubjectTableExport::warn(const QString &text)
+{
+    QMessageBox::warning(m_table, QStringLiteral("保存失败"), text, QMessageBox::Ok);
+}

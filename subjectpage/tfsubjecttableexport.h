@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QTimer>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+class TFExcelWritterJob;
+class TFSubjectTableExportProgress;
+class TFTreeStruct;
+
+namespace TFSubject {
+class TFJsonParser;
+}
+
+namespace TFUc {
+struct TFRequestContent;
+}
+
+/// The export of a table: requests its rows, names the file, and writes the workbook.
+///
+/// The window stays alive meanwhile: the workbook is written on a thread of its own, and a dialog with a way
+/// out shows how far it is. One export at a time; a command that comes while one is under way is dropped.
+class TFSubjectTableExport : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Asks the user for a file to save to; an empty answer means none.
+    using Chooser = std::function<QString(QWidget *parent, const QString &caption, const QString &start,
+                                          const QString &filter)>;
+
+    /// \a table is the parent, and of all dialogs.
+    explicit TFSubjectTableExport(QWidget *table);
+    /// Gives up what is under way.
+    ~TFSubjectTableExport() override;
+
+    /// What asks for a file, instead of the toolkit's dialog.
+    void setChooser(Chooser chooser) { m_chooser = std::move(chooser); }
+    bool isBusy() const { return m_progress != nullptr; }
+
+    /// Sends \a content and writes the rows of its reply, as \a parser reads them, under \a header. \a type 0
+    /// writes into the application's folder and opens the file, others ask where to put it and say when it is
+    /// done. Both pointers must live as long as this object.
+    void exportRows(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
+                    TFTreeStruct *header);
+
+    /// Writes \a header and \a rows to \a path and tells the user when they are saved. Asks for a file when
+    /// \a path is empty; appends ".xlsx" where the name lacks it. Returns before the file is written.
+    void saveWithMessage(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
+    /// The same, but opens the file in place of the message.
+    void saveAndOpen(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
+
+    /// Name of the workbook: the title of the page with ":" and the separators of folders replaced by "_", or
+    /// a fixed name where there is none; with ".xlsx".
+    QString fileName() const;
+    /// \a path, after the removal of what was there; another name where it can't be removed. "a.xlsx" becomes
+    /// "a(1)xlsx".
+    static QString uniqueFileName(const QString &path);
+
+signals:
+    /// The workbook stands whole at \a path; comes before the message and the opening.
+    void saved(const QString &path);
+    /// Nothing is under way any more, whatever became of it.
+    void ended();
+
+private:
+    enum Ending { ShowMessage, OpenFile };
+
+    void takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
+    void saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
+    void save(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows,
+              Ending ending);
+    QString askForNewWorkbook();
+    void beginProgress();
+    void hideProgress();
+    void end();
+    void giveUp();
+    void poll();
+    void showResult(const TFExcelWritterJob &job);
+    void warn(const QString &text);
+
+    QWidget *m_table;
+    Chooser m_chooser;
+    Ending m_ending = ShowMessage;
+    int m_run = 0; ///< number of the export under way; a reply to an earlier one is stale
+    QTimer m_pollTimer;
+    std::shared_ptr<TFExcelWritterJob> m_job;
+    TFSubjectTableExportProgress *m_progress = nullptr; ///< there while an export is under way
+};
