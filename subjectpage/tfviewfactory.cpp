@@ -1,5 +1,6 @@
 #include "tfviewfactory.h"
 
+#include "echarts/tfmulticharts.h"
 #include "tfsubjecttablewidget.h"
 
 #include <QHash>
@@ -12,9 +13,15 @@ TFBaseView *makeTable(QWidget *parent, bool isMain)
     return table;
 }
 
+TFBaseView *makeChart(QWidget *parent, bool)
+{
+    return new TFMultiCharts(parent);
+}
+
 QHash<int, TFViewFactory::Maker> &makers()
 {
-    static QHash<int, TFViewFactory::Maker> all = {{TFBaseView::TableView, makeTable}};
+    static QHash<int, TFViewFactory::Maker> all = {{TFBaseView::TableView, makeTable},
+                                                   {TFBaseView::ChartView, makeChart}};
     return all;
 }
 } // namespace

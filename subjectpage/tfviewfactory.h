@@ -14,7 +14,7 @@ namespace TFViewFactory {
 /// Makes an empty view for \a parent, which may be null and then leaves it to the caller.
 using Maker = std::function<TFBaseView *(QWidget *parent, bool isMain)>;
 
-/// Sets the maker of \a kind; the one for tables is there from the start.
+/// Sets the maker of \a kind; those for tables and charts are there from the start.
 void registerKind(int kind, Maker maker);
 
 /// An empty view, or null for a kind without a maker.

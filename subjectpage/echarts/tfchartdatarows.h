@@ -12,7 +12,6 @@ enum RowPattern { AllRows = 1, FirstRows = 2, EveryNthRow = 3, LastRows = 4 };
 /// What the ordering of rows looks at in the view's properties.
 struct ViewTraits
 {
-    bool isCross = false;
     bool isOrder = false;
     bool isGetChartData = true;
     QPair<QString, QVariant> order; ///< "order" and a JSON object of field name to 1 or -1

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMap>
 
 /// Charts in tests are written as JSON with single quotes.
 namespace ChartJson {
@@ -46,6 +47,23 @@ inline TFChartData::Config config(const QString &text)
     TFChartViewJsonTable table;
     table.initWith(QString::fromUtf8(QJsonDocument(chart).toJson()));
     return table.config();
+}
+
+/// A reply with the configuration of a chart view named "甲/乙", and \a rows unless they are an empty text.
+inline QJsonObject document(const QString &chart, const QString &rows = QString(),
+                            const QMap<QString, QString> &properties = {})
+{
+    QJsonArray view{QJsonObject{{"prop_name", "ObjViewType"}, {"prop_val", "ViewDataChart"}},
+                    QJsonObject{{"prop_typ", "EXTEND"},
+                                {"prop_name", "ChartViewConfig"},
+                                {"ext_prop_val", QString::fromUtf8(parse(chart).toJson())}}};
+    for (auto it = properties.begin(); it != properties.end(); ++it)
+        view.append(QJsonObject{{"prop_name", it.key()}, {"prop_val", it.value()}});
+    QJsonObject json{{"View_Config", view},
+                     {"Object_View", QJsonArray{QJsonObject{{"obj_vw_name", "甲/乙"}}}}};
+    if (!rows.isEmpty())
+        json.insert("Data", parse(rows).array());
+    return json;
 }
 
 /// "a b c: S 1 2 3 | T 4 5 6", the labels and then each series with its points.

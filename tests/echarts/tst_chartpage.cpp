@@ -1,0 +1,327 @@
+#include "subjecttest.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QImage>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWebEngineView>
+
+#include "chartjson.h"
+#include "echarts/tfmulticharts.h"
+#include "pageservice.h"
+#include "testhost.h"
+#include "tfcore/tfcore.h"
+
+namespace {
+constexpr int kStartMs = 60000; ///< the web engine's first page on a busy machine
+
+const char kMixed[] =
+    "{'XFieldName':'X','XValueType':'String','XDisplayDataPattern':1,'LegendPosition':3,'ChartDataConfigs':["
+    "{'FieldName':'V','LegendLable':'成交量','ChartType':'Column','IsVisible':true},"
+    "{'FieldName':'W','LegendLable':'w','ChartType':'Line','YShaftType':'Right','IsVisible':true},"
+    "{'FieldName':'W','LegendLable':'hidden','ChartType':'Area'}]}";
+const char kPie[] =
+    "{'ChartType':'Pie','XFieldName':'X','XValueType':'String','XDisplayDataPattern':1,'LegendPosition':1,"
+    "'ChartDataConfigs':[{'FieldName':'V','LegendLable':'v'},{'FieldName':'W','LegendLable':'w'}]}";
+const char kRows[] = "[{'X':'a','V':1,'W':40},{'X':'b','V':2,'W':20},{'X':'c','V':3,'W':30}]";
+
+QString pivot(QString chart)
+{
+    return chart.replace("'ChartType'", "'IsSwitchXAxis':true,'ChartType'");
+}
+
+int colours(const QImage &image)
+{
+    QSet<QRgb> seen;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            seen.insert(image.pixel(x, y));
+    }
+    return seen.size();
+}
+} // namespace
+
+/// Opens addresses in place of the desktop, and keeps them.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop() { QDesktopServices::setUrlHandler("http", this, "open"); }
+    ~Desktop() override { QDesktopServices::unsetUrlHandler("http"); }
+    QStringList opened;
+
+public slots:
+    void open(const QUrl &url) { opened << url.toString(); }
+};
+
+class TestChartPage : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void rowsBeforeThePageIsReadyAreDrawnThen();
+    void mixedChartFillsAxesAndLegend();
+    void pieHidesTheAxesForGood();
+    void pivotPieDrawsOnePieALabel();
+    void clearTakesTheSeriesOffThePage();
+    void skinRecoloursThePage_data();
+    void skinRecoloursThePage();
+    void titlesKeepTheMenuFromTheSkin();
+    void legendStandsWhereItIsTold_data();
+    void legendStandsWhereItIsTold();
+    void menuOpensAtTheMouseAndAClickCopies();
+    void savedPictureShowsTheChart();
+    void outsideLinkLeavesThePage();
+    void rowsComeFromTheService();
+
+private:
+    void showChart(const QString &chart, const QString &rows = kRows);
+    QVariant ask(const QString &script) const;
+    QString seriesTypes() const
+    {
+        return ask("tfCharts.getOption().series.map(s => s.type).join()").toString();
+    }
+
+    std::unique_ptr<PageService> m_service;
+    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<TFMultiCharts> m_chart;
+};
+
+void TestChartPage::init()
+{
+    beginMessages();
+    allowWarnings(".*"); // the web engine's own
+    m_service = std::make_unique<PageService>();
+    m_host = std::make_unique<TestHost>(m_service.get());
+    m_chart = std::make_unique<TFMultiCharts>();
+    m_chart->resize(800, 400);
+    m_chart->show();
+}
+
+void TestChartPage::cleanup()
+{
+    m_chart.reset();
+    m_host.reset();
+    m_service.reset();
+    endMessages();
+}
+
+void TestChartPage::showChart(const QString &chart, const QString &rows)
+{
+    QTRY_VERIFY_WITH_TIMEOUT(m_chart->isPageReady(), kStartMs);
+    m_chart->parseConfig(ChartJson::document(chart), true);
+    m_chart->setRows(ChartJson::rows(rows));
+    const int count = chart.contains("'Pie'") ? (chart.contains("'IsSwitchXAxis':true") ? 3 : 2) : 2;
+    QTRY_COMPARE(seriesTypes().split(',').size(), count);
+}
+
+QVariant TestChartPage::ask(const QString &script) const
+{
+    QVariant result;
+    bool isDone = false;
+    m_chart->webView()->page()->runJavaScript(script, [&](const QVariant &value) {
+        result = value;
+        isDone = true;
+    });
+    const bool isAnswered = QTest::qWaitFor([&isDone] { return isDone; }, 10000);
+    return isAnswered ? result : QVariant("no answer");
+}
+
+void TestChartPage::rowsBeforeThePageIsReadyAreDrawnThen()
+{
+    QVERIFY(!m_chart->isPageReady());
+    m_chart->handleReply(ChartJson::document(kMixed, kRows), {}, 1);
+    QTRY_VERIFY_WITH_TIMEOUT(m_chart->isPageReady(), kStartMs);
+    QTRY_COMPARE(seriesTypes(), QString("bar,line"));
+
+    m_chart->handleReply(ChartJson::document(kPie, kRows), {}, 1);
+    QTRY_COMPARE(seriesTypes(), QString("pie,pie"));
+}
+
+void TestChartPage::mixedChartFillsAxesAndLegend()
+{
+    showChart(kMixed);
+    QCOMPARE(seriesTypes(), QString("bar,line"));
+    QCOMPARE(ask("option.xAxis.data.join()").toString(), QString("a,b,c"));
+    QCOMPARE(ask("option.yAxis.map(a => a.position).join()").toString(), QString("left,right"));
+    QCOMPARE(ask("option.legend.data.map(l => l.name).join()").toString(), QString("成交量,w"));
+    QCOMPARE(ask("JSON.stringify(option.series[1].data)").toString(), QString("[40,20,30]"));
+    QCOMPARE(ask("option.xAxis.axisLabel.rotate").toInt(), 0);
+    QCOMPARE(ask("mainContainer.clientWidth + 'x' + mainContainer.clientHeight").toString(),
+             QString("%1x%2").arg(m_chart->webView()->width()).arg(m_chart->webView()->height()));
+}
+
+void TestChartPage::pieHidesTheAxesForGood()
+{
+    const QString axes = "[option.xAxis.show, option.yAxis[0].show, option.title.length].join()";
+    showChart(kPie);
+    QCOMPARE(ask(axes).toString(), QString("false,false,2"));
+    QCOMPARE(ask("option.series[1].center.join()").toString(), QString("66%,50%"));
+
+    showChart(kMixed);
+    QCOMPARE(seriesTypes(), QString("bar,line"));
+    QCOMPARE(ask(axes).toString(), QString("false,,2"));
+}
+
+void TestChartPage::pivotPieDrawsOnePieALabel()
+{
+    showChart(pivot(kPie));
+    QCOMPARE(ask("option.series.map(s => s.name + s.data.length).join()").toString(), QString("a2,b2,c2"));
+    QCOMPARE(ask("option.title.map(t => t.x).join()").toString(), QString("25%,50%,75%"));
+}
+
+void TestChartPage::clearTakesTheSeriesOffThePage()
+{
+    showChart(kMixed);
+    m_chart->clear();
+    QTRY_COMPARE(ask("tfCharts.getOption().series.length").toInt(), 0);
+    QCOMPARE(ask("option.xAxis.data.length + option.legend.data.length").toInt(), 0);
+    QCOMPARE(ask("option.yAxis[1].show"), QVariant(false));
+}
+
+void TestChartPage::skinRecoloursThePage_data()
+{
+    QTest::addColumn<QString>("skin");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("black") << "black"
+                           << "#080B10 #FFFFFF menu_black toolBtn_black #080b10";
+    QTest::newRow("white") << "white"
+                           << "#FFFFFF #333333 menu_white toolBtn_white #ffffff";
+    QTest::newRow("default") << "Default"
+                             << "#FFFFFF #333333 menu_white toolBtn_white #ffffff";
+    QTest::newRow("mid") << "mid"
+                         << "#080B10 #FFFFFF menu_black toolBtn_black none";
+    QTest::newRow("another case") << "Black"
+                                  << "undefined undefined menu_black toolBtn_black #080b10";
+    QTest::newRow("unknown") << "pink"
+                             << "undefined undefined menu_black toolBtn_black none";
+}
+
+void TestChartPage::skinRecoloursThePage()
+{
+    QFETCH(QString, skin);
+    QFETCH(QString, expected);
+    showChart(kMixed);
+    m_chart->slotChangeSkin("white");
+    QTRY_COMPARE(ask("menu.className").toString(), QString("menu_white"));
+
+    m_chart->slotChangeSkin(skin);
+
+    const QColor background = m_chart->webView()->page()->backgroundColor();
+    const QString widgetColour = background.isValid() ? background.name() : "none";
+    QTRY_COMPARE(ask("[option.backgroundColor, option.legend.textStyle.color, menu.className, "
+                     "document.getElementsByName('toolBtn')[2].className].map(String).join(' ')")
+                         .toString() +
+                     ' ' + widgetColour,
+                 expected);
+    QVERIFY(debugLines().isEmpty() || debugLines().last().contains(skin));
+}
+
+void TestChartPage::titlesKeepTheMenuFromTheSkin()
+{
+    showChart(kPie);
+    QCOMPARE(ask("menu.className").toString(), QString("menu_white"));
+    TFCore::instance()->setCurrentSkin("black");
+    QTRY_COMPARE(ask("option.backgroundColor").toString(), QString("#080B10"));
+    QCOMPARE(ask("menu.className").toString(), QString("menu_white"));
+}
+
+void TestChartPage::legendStandsWhereItIsTold_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("none") << 0 << "false center bottom horizontal 20 20 20 20";
+    QTest::newRow("bottom") << 1 << "true center bottom horizontal 20 20 20 30";
+    QTest::newRow("left") << 2 << "true left middles vertical 79 20 20 20";
+    QTest::newRow("right") << 3 << "true right middle vertical 20 79 20 20";
+    QTest::newRow("top") << 4 << "true center top horizontal 20 20 30 20";
+    QTest::newRow("outside the table") << 5 << "false center bottom horizontal 20 20 20 20";
+}
+
+void TestChartPage::legendStandsWhereItIsTold()
+{
+    QFETCH(int, position);
+    showChart(QString(kMixed).replace("'LegendPosition':3", QString("'LegendPosition':%1").arg(position)));
+    QTEST(ask("[option.legend.show, option.legend.left, option.legend.top, option.legend.orient, "
+              "option.grid.left, option.grid.right, option.grid.top, option.grid.bottom].join(' ')")
+              .toString(),
+          "expected");
+}
+
+void TestChartPage::menuOpensAtTheMouseAndAClickCopies()
+{
+    showChart(kMixed);
+    QApplication::clipboard()->clear();
+    const QString open = "document.oncontextmenu({preventDefault: function () {}, clientX: %1, clientY: %2});"
+                         "[menu.style.display, menu.offsetLeft, menu.offsetTop].join()";
+    QCOMPARE(ask(open.arg(10).arg(20)).toString(), QString("block,10,20"));
+    const QString corner = QString("block,%1,%2");
+    QCOMPARE(ask(open.arg(790).arg(390)).toString(),
+             corner.arg(790 - ask("menu.offsetWidth").toInt()).arg(390 - ask("menu.offsetHeight").toInt()));
+
+    QTemporaryDir folder;
+    qputenv("TMPDIR", QFile::encodeName(folder.filePath("tmp")));
+    ask("document.body.click()");
+    QTRY_VERIFY(!QApplication::clipboard()->image().isNull());
+    QCOMPARE(ask("menu.style.display").toString(), QString("none"));
+    QVERIFY(colours(QApplication::clipboard()->image()) > 8);
+    QCOMPARE(QDir(folder.path()).entryList({"tmp_*.png"}).size(), 1);
+    qunsetenv("TMPDIR");
+}
+
+void TestChartPage::savedPictureShowsTheChart()
+{
+    showChart(kMixed);
+    QTemporaryDir folder;
+    // A picture is painted some frames after its message.
+    QImage image;
+    const auto save = [&] {
+        image = QImage(m_chart->slotSaveImage(folder.filePath("chart")));
+        return colours(image.copy(image.rect().adjusted(20, 20, -100, -40))) > 8;
+    };
+    QTRY_VERIFY(save());
+    QCOMPARE(image.size(), m_chart->size() * m_chart->devicePixelRatioF());
+    QCOMPARE(seriesTypes().split(',').size(), 2);
+}
+
+void TestChartPage::outsideLinkLeavesThePage()
+{
+    showChart(kMixed);
+    Desktop desktop;
+    const QUrl page = m_chart->webView()->url();
+    ask("window.location.href = 'http://127.0.0.1:9/outside'; 0");
+    QTRY_COMPARE(desktop.opened.join(' '), QString("http://127.0.0.1:9/outside"));
+    QCOMPARE(m_chart->webView()->url(), page);
+    QCOMPARE(seriesTypes(), QString("bar,line"));
+}
+
+void TestChartPage::rowsComeFromTheService()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(m_chart->isPageReady(), kStartMs);
+    m_service->answer({{}, 1, 400},
+                      PageService::data(QJsonObject{{"Data", ChartJson::parse(kRows).array()}}));
+    m_service->answer({{}, 2, 401}, PageService::failure());
+    m_chart->setViewId(400);
+    m_chart->parseConfig(ChartJson::document(kMixed, {}, {{"isgetchartdata", "1"}}), true);
+    m_chart->requestData();
+    QTRY_COMPARE(seriesTypes(), QString("bar,line"));
+    const QJsonObject body = m_service->requests().last().body;
+    QCOMPARE(body.value("obj_vw_id").toInt(), 400);
+    QVERIFY(!body.contains("page") && !body.contains("size"));
+
+    m_chart->setViewId(401);
+    m_chart->parseConfig(ChartJson::document(kMixed, {}, {{"IsCross", "1"}}), true);
+    m_chart->requestData();
+    QTRY_COMPARE(m_service->requestsFor({{}, 2, 401}).size(), 1);
+    QCOMPARE(seriesTypes(), QString("bar,line"));
+}
+
+SUBJECT_TEST_MAIN(TestChartPage)
+#include "tst_chartpage.moc"
