@@ -267,6 +267,7 @@ void TestChartPage::menuOpensAtTheMouseAndAClickCopies()
              corner.arg(790 - ask("menu.offsetWidth").toInt()).arg(390 - ask("menu.offsetHeight").toInt()));
 
     QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("tmp"));
     qputenv("TMPDIR", QFile::encodeName(folder.filePath("tmp")));
     ask("document.body.click()");
     QTRY_VERIFY(!QApplication::clipboard()->image().isNull());

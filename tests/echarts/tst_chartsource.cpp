@@ -134,9 +134,9 @@ void TestChartSource::liveFilterIsAParameterWithAControl()
     view.append(
         QJsonObject{{"prop_typ", "EXTEND"},
                     {"prop_name", "filters"},
-                    {"ext_prop_val", R"([{"FieldName":"A","ClassName":"ComboBox","ParameterCategory":"1"},
-                             {"FieldName":"B","ClassName":"LabelControl","ParameterCategory":"1"},
-                             {"FieldName":"C","ClassName":"ComboBox","ParameterCategory":"0"}])"}});
+                    {"ext_prop_val", R"([{"FieldName":"A","ClassName":"ComboBox","ParameterCategory":1},
+                             {"FieldName":"B","ClassName":"LabelControl","ParameterCategory":1},
+                             {"FieldName":"C","ClassName":"ComboBox","ParameterCategory":0}])"}});
     json.insert("View_Config", view);
     TFDataSource source;
     source.loadConfig(json);
