@@ -340,6 +340,36 @@
     </message>
 </context>
 <context>
+    <name>TFSubjectTableExport</name>
+    <message>
+        <source>正在取数据...</source>
+        <translation>Fetching the rows...</translation>
+    </message>
+    <message>
+        <source>新建工作簿</source>
+        <translation>New workbook</translation>
+    </message>
+    <message>
+        <source>正在写入...</source>
+        <translation>Writing the rows...</translation>
+    </message>
+    <message>
+        <source>正在保存...</source>
+        <translation>Saving...</translation>
+    </message>
+</context>
+<context>
+    <name>TFSubjectTableExportProgress</name>
+    <message>
+        <source>导出</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>TFSubjectTableWidget</name>
     <message>
         <source>加载中...</source>

@@ -351,6 +351,36 @@
     </message>
 </context>
 <context>
+    <name>TFSubjectTableExport</name>
+    <message>
+        <source>正在取数据...</source>
+        <translation>正在取数据...</translation>
+    </message>
+    <message>
+        <source>新建工作簿</source>
+        <translation>新建工作簿</translation>
+    </message>
+    <message>
+        <source>正在写入...</source>
+        <translation>正在写入...</translation>
+    </message>
+    <message>
+        <source>正在保存...</source>
+        <translation>正在保存...</translation>
+    </message>
+</context>
+<context>
+    <name>TFSubjectTableExportProgress</name>
+    <message>
+        <source>导出</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>TFSubjectTableWidget</name>
     <message>
         <source>加载中...</source>

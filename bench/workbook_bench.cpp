@@ -1,0 +1,133 @@
+// A large workbook by the export's writer, against the same cells given to the workbook library with nothing
+// else done. Both run in turns in processes of their own, so that each has its peak of memory; a ratio is the
+// median of the rounds' ratios.
+
+#include "mulittable/tfheaderdatastruct.h"
+#include "tfexcelwritter.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <xlsxdocument.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <sys/resource.h>
+
+namespace {
+constexpr int RowCount = 100000;
+constexpr int Columns = 30;
+constexpr int Rounds = 3;
+
+using Rows = QList<QList<QVariant>>;
+
+struct Figures
+{
+    double milliseconds;
+    double megabytes;
+};
+
+/// Ten texts, fifteen doubles, five whole numbers a row.
+Rows makeRows()
+{
+    Rows rows;
+    rows.reserve(RowCount);
+    for (int row = 0; row < RowCount; ++row) {
+        QList<QVariant> values;
+        values.reserve(Columns);
+        for (int column = 0; column < Columns; ++column) {
+            if (column < 10)
+                values.append(QStringLiteral("text %1").arg(row * column % 5000));
+            else if (column < 25)
+                values.append(row * 1.25 + column);
+            else
+                values.append(row);
+        }
+        rows.append(values);
+    }
+    return rows;
+}
+
+void writeByLibrary(const Rows &rows, QXlsx::Document &document)
+{
+    QXlsx::Format format;
+    format.setHorizontalAlignment(QXlsx::Format::AlignHCenter);
+    for (int row = 0; row < rows.size(); ++row) {
+        for (int column = 0; column < Columns; ++column)
+            document.write(row + 2, column + 1, rows.at(row).at(column), format);
+    }
+}
+
+void writeByExport(const Rows &rows, QXlsx::Document &document)
+{
+    TFTreeStruct header{QString()};
+    for (int column = 0; column < Columns; ++column) {
+        HeaderFieldInfo info;
+        info.caption = QString::number(column);
+        info.visible = true;
+        header.addChild(new TFTreeStruct(info));
+    }
+    TFExcelWritter::writeHeader(document, &header);
+    TFExcelWritter::writeData(document, &header, rows);
+}
+
+/// In a process of its own: prints the time and the peak of memory.
+int runOne(const QString &way)
+{
+    const QTemporaryDir folder;
+    const Rows rows = makeRows();
+    QElapsedTimer clock;
+    clock.start();
+    QXlsx::Document document;
+    if (way == QLatin1String("library"))
+        writeByLibrary(rows, document);
+    else
+        writeByExport(rows, document);
+    if (!document.saveAs(folder.filePath(QStringLiteral("bench.xlsx"))))
+        return 1;
+    const double time = double(clock.nsecsElapsed()) / 1e6;
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::printf("%f %f\n", time, double(usage.ru_maxrss) / 1024);
+    return 0;
+}
+
+Figures measure(const QString &way)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {way});
+    process.waitForFinished(-1);
+    const QList<QByteArray> figures = process.readAllStandardOutput().simplified().split(' ');
+    if (process.exitCode() != 0 || figures.size() != 2)
+        qFatal("the workbook could not be written");
+    return {figures.at(0).toDouble(), figures.at(1).toDouble()};
+}
+
+double median(QVector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (argc > 1)
+        return runOne(QString::fromUtf8(argv[1]));
+    QVector<double> times, memories;
+    for (int round = 0; round < Rounds; ++round) {
+        const Figures library = measure(QStringLiteral("library"));
+        const Figures ours = measure(QStringLiteral("export"));
+        times.append(ours.milliseconds / library.milliseconds);
+        memories.append(ours.megabytes / library.megabytes);
+        std::printf("library %7.0f ms %5.0f MB, export %7.0f ms %5.0f MB\n", library.milliseconds,
+                    library.megabytes, ours.milliseconds, ours.megabytes);
+    }
+    std::printf("%d rows x %d: time ratio %.2f, memory ratio %.2f\n", RowCount, Columns, median(times),
+                median(memories));
+    return 0;
+}
