@@ -12,6 +12,7 @@
 
 #include "chartjson.h"
 #include "echarts/tfmulticharts.h"
+#include "pagescript.h"
 #include "pageservice.h"
 #include "testhost.h"
 #include "tfcore/tfcore.h"
@@ -124,14 +125,7 @@ void TestChartPage::showChart(const QString &chart, const QString &rows)
 
 QVariant TestChartPage::ask(const QString &script) const
 {
-    QVariant result;
-    bool isDone = false;
-    m_chart->webView()->page()->runJavaScript(script, [&](const QVariant &value) {
-        result = value;
-        isDone = true;
-    });
-    const bool isAnswered = QTest::qWaitFor([&isDone] { return isDone; }, 10000);
-    return isAnswered ? result : QVariant("no answer");
+    return askPage(m_chart->webView()->page(), script);
 }
 
 void TestChartPage::rowsBeforeThePageIsReadyAreDrawnThen()

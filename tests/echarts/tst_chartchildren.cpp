@@ -1,0 +1,173 @@
+#include "subjecttest.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTabWidget>
+#include <QWebEngineView>
+
+#include <algorithm>
+
+#include "../page/viewdocument.h"
+#include "chartjson.h"
+#include "echarts/tfmulticharts.h"
+#include "pagescript.h"
+#include "pageservice.h"
+#include "testhost.h"
+#include "tfrightcontainer.h"
+
+namespace {
+constexpr int kStartMs = 60000; ///< the web engine's first page on a busy machine
+constexpr int kTablePage = 260;
+constexpr int kOtherPage = 300;
+constexpr int kFirstChart = 400;
+constexpr int kCharts = 5;
+constexpr int kWarmUp = 5;
+constexpr int kChanges = 15;
+constexpr double kGrowth = 1.1;
+constexpr int kSettleMs = 120000; ///< until the last renderers have ended
+
+const char kChart[] =
+    "{'XFieldName':'CODE','XValueType':'String','XDisplayDataPattern':1,'ChartDataConfigs':["
+    "{'FieldName':'PRICE','LegendLable':'p','ChartType':'Line','IsVisible':true}]}";
+
+int webViews()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    return int(std::count_if(widgets.begin(), widgets.end(),
+                             [](QWidget *widget) { return qobject_cast<QWebEngineView *>(widget); }));
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Kilobytes of \a process and of all that it started, memory that they share counted once.
+qint64 groupMemory(const QString &process)
+{
+    qint64 sum = 0;
+    const QList<QByteArray> lines = contents("/proc/" + process + "/smaps_rollup").split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith("Pss:"))
+            sum += line.mid(4).simplified().split(' ').first().toLongLong();
+    }
+    const QString tasks = "/proc/" + process + "/task";
+    const QStringList threads = QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &thread : threads) {
+        const QList<QByteArray> children =
+            contents(tasks + '/' + thread + "/children").simplified().split(' ');
+        for (const QByteArray &child : children) {
+            if (!child.isEmpty())
+                sum += groupMemory(QString::fromLatin1(child));
+        }
+    }
+    return sum;
+}
+} // namespace
+
+class TestChartChildren : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void childChartsDrawTheMainTablesRows();
+    void leavingThePageFreesItsWebViews();
+
+private:
+    void servePage(const ViewDocument &document);
+    void openCharts();
+    QList<TFMultiCharts *> charts() const { return m_page->childViews()->findChildren<TFMultiCharts *>(); }
+    bool areDrawn() const;
+
+    std::unique_ptr<PageService> m_service;
+    std::unique_ptr<TestHost> m_host;
+    std::unique_ptr<TFRightContainer> m_page;
+};
+
+void TestChartChildren::init()
+{
+    beginMessages();
+    allowWarnings(".*"); // the web engine's own
+    m_service = std::make_unique<PageService>();
+    m_host = std::make_unique<TestHost>(m_service.get());
+    ViewDocument main;
+    main.properties = {{"isOrder", "1"}};
+    for (int id = kFirstChart; id < kFirstChart + kCharts; ++id) {
+        main.children.append({id, "图"});
+        m_service->answer({{}, 0, id},
+                          PageService::data(ChartJson::document(kChart, {}, {{"isgetchartdata", "0"}})));
+    }
+    servePage(main);
+    ViewDocument other;
+    other.id = kOtherPage;
+    servePage(other);
+    m_page = std::make_unique<TFRightContainer>();
+    m_page->resize(900, 700);
+    m_page->show();
+}
+
+void TestChartChildren::cleanup()
+{
+    m_page.reset();
+    m_host.reset();
+    m_service.reset();
+    endMessages();
+}
+
+void TestChartChildren::servePage(const ViewDocument &document)
+{
+    m_service->answer({{}, 0, document.id}, PageService::data(document.config()));
+    m_service->answer({{}, 1, document.id}, PageService::data(document.rows(0, 3, 3)));
+}
+
+bool TestChartChildren::areDrawn() const
+{
+    const QList<TFMultiCharts *> all = charts();
+    return all.size() == kCharts && std::all_of(all.begin(), all.end(), [](const TFMultiCharts *chart) {
+               return chart->isPageReady();
+           });
+}
+
+void TestChartChildren::openCharts()
+{
+    m_page->refreshPage(kTablePage, "图");
+    QTRY_VERIFY_WITH_TIMEOUT(areDrawn(), kStartMs);
+}
+
+void TestChartChildren::childChartsDrawTheMainTablesRows()
+{
+    QCOMPARE(webViews(), 0);
+    openCharts();
+
+    const QString script = "option.xAxis.data.join() + ' ' + option.series.map(s => s.data.join()).join(';')";
+    const QList<TFMultiCharts *> all = charts();
+    for (TFMultiCharts *chart : all)
+        QTRY_COMPARE(askPage(chart->webView()->page(), script).toString(),
+                     QString("CODE0,CODE1,CODE2 0,1,2"));
+    QVERIFY(m_service->requestsFor({{}, 1, kFirstChart}).isEmpty());
+}
+
+void TestChartChildren::leavingThePageFreesItsWebViews()
+{
+    qint64 before = 0;
+    for (int i = 0; i < kWarmUp + kChanges; ++i) {
+        openCharts();
+        QCOMPARE(webViews(), kCharts);
+        m_page->refreshPage(kOtherPage, "表");
+        QCOMPARE(webViews(), 0);
+        if (i == kWarmUp - 1)
+            before = groupMemory(QString::number(QCoreApplication::applicationPid()));
+    }
+    // Renderers end some time after their views.
+    const auto grown = [before] {
+        return groupMemory(QString::number(QCoreApplication::applicationPid())) / double(before);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(grown() < kGrowth, kSettleMs);
+}
+
+SUBJECT_TEST_MAIN(TestChartChildren)
+#include "tst_chartchildren.moc"
