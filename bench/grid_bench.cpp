@@ -2,13 +2,13 @@
 // view on the same model, viewport, row height and font, in one run, interleaved. Ratios are medians over the
 // rounds.
 
+#include <comparison.h>
 #include <demoview.h>
 #include <quotemodel.h>
 
 #include <gridcontrol/grid.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QHeaderView>
@@ -16,11 +16,8 @@
 #include <QTableView>
 #include <QTextStream>
 
-#include <algorithm>
 #include <functional>
-#include <malloc.h>
 #include <memory>
-#include <vector>
 
 using namespace Qtitan;
 
@@ -34,39 +31,11 @@ QTextStream &out()
     return stream;
 }
 
-double median(std::vector<double> values)
-{
-    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-    return values[values.size() / 2];
-}
-
-double milliseconds(const std::function<void()> &work, int times)
-{
-    QElapsedTimer elapsed;
-    elapsed.start();
-    for (int i = 0; i < times; ++i)
-        work();
-    return elapsed.nsecsElapsed() / 1e6 / times;
-}
-
-// Median of the ratios of a round's work to the same round's base, after one round to warm up.
+// Median of the ratios of a round's work to the same round's base.
 void compare(const char *what, double goal, const std::function<void()> &base,
              const std::function<void()> &work, int times)
 {
-    std::vector<double> ratios;
-    std::vector<double> bases;
-    for (int round = 0; round <= rounds; ++round) {
-        const double first = milliseconds(base, times);
-        const double second = milliseconds(work, times);
-        if (round > 0) {
-            ratios.push_back(second / first);
-            bases.push_back(first);
-        }
-    }
-    out() << QString::asprintf("%-46s base %8.3f ms  ratio %6.3f  goal %.2f", what, median(bases),
-                               median(ratios), goal)
-          << (median(ratios) <= goal ? "" : "  MISSED") << '\n';
-    out().flush();
+    Bench::compare({QString::fromLatin1(what), QStringLiteral("as named"), goal}, rounds, base, work, times);
 }
 
 std::unique_ptr<QTableView> makeTable(QuoteModel &model)
@@ -161,11 +130,11 @@ void measureMemory()
     const auto grid = makeGrid(model);
     paintedOnce(*grid);
     GridViewBase *view = grid->rootView();
-    const size_t before = mallinfo2().uordblks + mallinfo2().hblkhd;
+    const size_t before = Bench::allocatedBytes();
     const auto report = [&](const char *what) {
-        const double bytes = double(mallinfo2().uordblks + mallinfo2().hblkhd - before) / rows;
-        out() << QString::asprintf("%-46s %6.2f bytes a row  goal 16", what, bytes)
-              << (bytes <= 16 ? "" : "  MISSED") << '\n';
+        const double bytes = double(Bench::allocatedBytes() - before) / rows;
+        Bench::report({QString::fromLatin1(what), QStringLiteral("16 bytes a row"), 1},
+                      {bytes, 16, bytes / 16, "B"});
     };
     view->selectAll();
     report("memory, as delivered, all selected");
@@ -184,7 +153,7 @@ void measureArranging()
     paintedOnce(*grid);
     GridViewBase *view = grid->rootView();
     const auto report = [&](const char *what, const std::function<void()> &work) {
-        out() << QString::asprintf("%-46s %8.1f ms", what, milliseconds(work, 1)) << '\n';
+        out() << QString::asprintf("%-46s %8.1f ms", what, Bench::milliseconds(work)) << '\n';
     };
     report("sort 100,000 numbers", [&] { view->sortByColumn(view->getColumn(4), SortUp); });
     report("sort 100,000 texts by collation",

@@ -2,6 +2,7 @@
 // else done. Both run in turns in processes of their own, so that each has its peak of memory; a ratio is the
 // median of the rounds' ratios.
 
+#include "comparison.h"
 #include "mulittable/tfheaderdatastruct.h"
 #include "tfexcelwritter.h"
 
@@ -106,11 +107,6 @@ Figures measure(const QString &way)
     return {figures.at(0).toDouble(), figures.at(1).toDouble()};
 }
 
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
-}
 } // namespace
 
 int main(int argc, char *argv[])
@@ -118,16 +114,23 @@ int main(int argc, char *argv[])
     const QCoreApplication application(argc, argv);
     if (argc > 1)
         return runOne(QString::fromUtf8(argv[1]));
-    QVector<double> times, memories;
-    for (int round = 0; round < Rounds; ++round) {
-        const Figures library = measure(QStringLiteral("library"));
-        const Figures ours = measure(QStringLiteral("export"));
-        times.append(ours.milliseconds / library.milliseconds);
-        memories.append(ours.megabytes / library.megabytes);
-        std::printf("library %7.0f ms %5.0f MB, export %7.0f ms %5.0f MB\n", library.milliseconds,
-                    library.megabytes, ours.milliseconds, ours.megabytes);
-    }
-    std::printf("%d rows x %d: time ratio %.2f, memory ratio %.2f\n", RowCount, Columns, median(times),
-                median(memories));
+    Figures library{}, ours{};
+    QVector<double> memories;
+    Bench::compareTimed(
+        {QStringLiteral("workbook, %1 rows x %2").arg(RowCount).arg(Columns), QStringLiteral("QXlsx alone"),
+         1.05},
+        Rounds,
+        [&] {
+            library = measure(QStringLiteral("library"));
+            return library.milliseconds;
+        },
+        [&] {
+            ours = measure(QStringLiteral("export"));
+            memories.append(ours.megabytes / library.megabytes);
+            return ours.milliseconds;
+        });
+    std::sort(memories.begin(), memories.end());
+    Bench::report({QStringLiteral("the same, peak of memory"), QStringLiteral("QXlsx alone"), 1.05},
+                  {ours.megabytes, library.megabytes, memories.at(memories.size() / 2), "MB"});
     return 0;
 }
