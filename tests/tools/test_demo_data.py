@@ -120,5 +120,56 @@ class ViewCheck(Scratch):
                 self.assertEqual(self.check(**changes), (1, line))
 
 
+class Coverage(unittest.TestCase):
+    """Some page of the demonstration shows each thing that a document can ask for."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.views = [json.loads(path.read_text()) for path in sorted((ROOT / 'demo/views').glob('*/*.json'))]
+        cls.columns = [node for view in cls.views for node in leaves(view.get('bands', []))]
+        cls.filters = [row for view in cls.views for row in view.get('filters', [])]
+
+    def assert_used(self, wanted, used):
+        self.assertEqual(set(wanted.split()) - {str(word) for word in used}, set())
+
+    def test_filter_controls_and_operators(self):
+        self.assert_used('TextEdit KeywordsBox DateEdit DatetimeInterval DecimalTextEditInterval ComboBox CheckComboBox SimpleYear MultYear '
+                         'ReportDateSimple ReportDateSimple2 ReportDateSimple5 YearMonthInterval YearMonthSimple UnitFactorCombobox VirtualCntrl '
+                         'F9SecuIdCntrl F9COMIDCntrl LabelControl SimpleButtonGetData SimpleButtonSaveToExcel',
+                         (row['ClassName'] for row in self.filters))
+        self.assert_used('>= > < <= = <> LIKE IN NotIn', (row.get('Operator') for row in self.filters))
+        self.assert_used('DataSourceName DataSourceFilter DataSourceFilterParams', (key for row in self.filters for key in row))
+
+    def test_columns_bands_and_formulas(self):
+        self.assert_used('BandedGridColumnWithUnit MemoExEdit HyperLinkEdit BandedGridColumnWithRating',
+                         (node.get('ColumnType') for node in self.columns))
+        self.assert_used('CellStyleExpression UnboundExpression StatExpression Url NoSort Visible TextAlignment',
+                         (key for node in self.columns for key in node))
+        formulas = ' '.join(node.get('UnboundExpression', '').replace('(', ' ') for node in self.columns)
+        self.assert_used('SUM MAX AVERAGE GEOMEAN', formulas.split())
+        self.assertTrue(any('{[' in node['Caption'] for node in self.columns))
+        self.assertGreaterEqual(len({node['UnitCategory'] for node in self.columns if 'UnitCategory' in node}), 5)
+        self.assertGreaterEqual(max(depth(view.get('bands', [])) for view in self.views), 3)
+
+    def test_kinds_of_views_and_charts(self):
+        self.assert_used('cross chart childViews block', (key for view in self.views for key in view))
+        self.assert_used('IsGroup FrozenCount VGridColHeaderField IsGetChartData isShowBlock IsCrossSortByDesc',
+                         (key for view in self.views for key in view.get('properties', {})))
+        charts = [view['chart'] for view in self.views if 'chart' in view]
+        series = [row for chart in charts for row in chart['ChartDataConfigs']]
+        self.assert_used('Pie XYPlot Line LineSymbols LineSmoothed Area AreaStacked AreaStacked100pc Column ColumnStacked',
+                         [x.get('ChartType') for x in charts + series])
+        self.assert_used('1 2 3 4', (chart['XDisplayDataPattern'] for chart in charts))
+
+
+def leaves(nodes):
+    for node in nodes:
+        yield from leaves(node['children']) if 'children' in node else [node]
+
+
+def depth(nodes):
+    return max((1 + depth(node.get('children', [])) for node in nodes), default=0)
+
+
 if __name__ == '__main__':
     unittest.main()
