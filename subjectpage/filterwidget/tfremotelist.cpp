@@ -1,5 +1,6 @@
 #include "tfremotelist.h"
 
+#include "net/tfdm.h"
 #include "tfcore/tfserviceconfig.h"
 
 #include <QJsonArray>
@@ -8,7 +9,6 @@
 #include <QUrl>
 
 namespace {
-const QString ServiceKey = QStringLiteral("servercfg.ini:Subject");
 const QString ListPath = QStringLiteral("/bas/ds/data");
 
 /// Text of the first of two keys that the entry has.
@@ -29,7 +29,7 @@ TFUc::TFRequestContent request(const TFTableModelData::FilterData &row)
                 QJsonDocument::fromJson(row.DataSourceFilterParams.toUtf8()).object());
     body.insert(QStringLiteral("objName"), row.DataSourceName);
 
-    const QUrl base = TFServiceConfig::instance()->getHttpUrl(ServiceKey, QString());
+    const QUrl base = TFServiceConfig::instance()->getHttpUrl(TFDm::ServiceKey, QString());
     TFUc::TFRequestContent content;
     content.url = QUrl::fromUserInput(base.toString() + ListPath);
     content.body = QJsonDocument(body).toJson(QJsonDocument::Compact);

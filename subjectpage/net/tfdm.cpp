@@ -3,9 +3,7 @@
 #include "tfcore/tfappconfig.h"
 #include "tfcore/tfserviceconfig.h"
 
-namespace {
-const QString ServiceKey = QStringLiteral("servercfg.ini:Subject");
-}
+const QString TFDm::ServiceKey = QStringLiteral("servercfg.ini:Subject");
 
 TFDm::TFDm(QObject *owner)
     : m_owner(owner)

@@ -9,6 +9,9 @@
 class TFDm
 {
 public:
+    /// Under which the host's configuration holds the address of the data service.
+    static const QString ServiceKey;
+
     /// Reads address, user and product anew from the host and hands them to TFUc. \a owner is the view that
     /// bounds the delivery of results.
     explicit TFDm(QObject *owner);
