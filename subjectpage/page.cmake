@@ -57,3 +57,16 @@ target_sources(subjectui PRIVATE
     tfsubjectmainframe.cpp tfsubjectmainframe.h
     tfsubjectpage.cpp tfsubjectpage.h
 )
+
+# The component for composite screens and its settings.
+target_sources(subjectui PRIVATE
+    tfframesubjectzhp.cpp tfframesubjectzhp.h
+    tfframesubjectzhpdialog.cpp tfframesubjectzhpdialog.h
+    tfframesubjectzhpsettings.cpp tfframesubjectzhpsettings.h
+    tfframesubjectzhpstate.cpp tfframesubjectzhpstate.h
+    tfsubjectsetting.cpp tfsubjectsetting.h tfsubjectsetting.ui
+    tfsubjectsettingargs.cpp tfsubjectsettingargs.h
+    tfsubjectsettingtree.cpp tfsubjectsettingtree.h
+)
+# The slots named after controls are connected by hand: one of them has no control.
+set_target_properties(subjectui PROPERTIES AUTOUIC ON AUTOUIC_OPTIONS "--no-autoconnection")

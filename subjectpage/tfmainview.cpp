@@ -107,6 +107,16 @@ void TFMainView::setPageBarVisible(bool visible)
         view->setPageBarVisible(visible);
 }
 
+bool TFMainView::isFilterBarVisible() const
+{
+    return table() && table()->isFilterBarVisible();
+}
+
+bool TFMainView::isPageBarVisible() const
+{
+    return table() && table()->isPageBarVisible();
+}
+
 void TFMainView::setRequestName(const QString &name)
 {
     if (TFBaseView *view = currentView())

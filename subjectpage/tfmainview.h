@@ -33,6 +33,10 @@ public:
     void setViewId(qint64 id);
     void setFilterBarVisible(bool visible);
     void setPageBarVisible(bool visible);
+    /// Whether a view that has bars to hide, a table, is on top.
+    bool hasBars() const { return table(); }
+    bool isFilterBarVisible() const;
+    bool isPageBarVisible() const;
     void setRequestName(const QString &name);
     void startLoading();
     void finished();

@@ -300,8 +300,12 @@ void TFRightContainer::setChildViewsVisible(bool visible)
     applySplitterRule();
 }
 
+bool TFRightContainer::isMainViewVisible() const
+{
+    return !m_mainView->isHidden();
+}
+
 void TFRightContainer::applySplitterRule()
 {
-    const bool isMainShown = !m_mainView->isHidden();
-    setSizes({isMainShown ? height() : 1, m_childViewsVisible ? height() : 1});
+    setSizes({isMainViewVisible() ? height() : 1, m_childViewsVisible ? height() : 1});
 }

@@ -36,6 +36,9 @@ public:
     /// Both then share the height by the splitter rule: what is not shown gets one pixel.
     void setMainViewVisible(bool visible);
     void setChildViewsVisible(bool visible);
+    bool isMainViewVisible() const;
+    /// The setting; a page without child views shows none all the same.
+    bool areChildViewsVisible() const { return m_childViewsVisible; }
 
     qint64 currentView() const override { return m_currentView; }
     TFMainView *mainView() const { return m_mainView; }

@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "tfframesubjectzhp.h"
 #include "tfsubjectpage.h"
 #include "tftranslations.h"
 
@@ -23,6 +24,14 @@ int registerPage()
         "TFSubjectPage", destructPage, constructPage, int(sizeof(TFSubjectPage)),
         QMetaType::NeedsConstruction | QMetaType::NeedsDestruction, nullptr);
 }
+
+/// Components are there for the host from the loading of the library until it goes.
+struct Components
+{
+    Components() { TFFrameSubjectZHP::registerComponents(); }
+    ~Components() { TFFrameSubjectZHP::unregisterComponents(); }
+};
+const Components components;
 } // namespace
 
 bool TFSubjectPagePlugin::initialize(const QStringList &, QString *)

@@ -40,6 +40,8 @@ public:
     bool isMain() const { return m_isMain; }
     void setFilterBarVisible(bool visible);
     void setPageBarVisible(bool visible);
+    bool isFilterBarVisible() const { return m_filterBarVisible; }
+    bool isPageBarVisible() const { return m_pageBarVisible; }
 
     /// Requests the rows with the current filters and \a pair as a further top-level key. An empty pair means
     /// the block filter of the page, where there is one.

@@ -1,22 +1,14 @@
 #include "filterwidget/flowlayout.h"
 #include "filterwidget/tfbasefilterwidget.h"
 #include "filterwidget/tffilterwidget.h"
+#include "screenobject.h"
 #include "subjecttest.h"
+#include "tfframesubjectzhp.h"
 #include "tfsubjectmainframe.h"
 
 #include <QLineEdit>
 
 using Row = TFTableModelData::FilterData;
-
-/// Stands for the component of a composite screen: the bar looks for its class name alone.
-class TFFrameSubjectZHP : public QWidget
-{
-    Q_OBJECT
-    Q_PROPERTY(QVariantMap glFilterArgs MEMBER arguments)
-
-public:
-    QVariantMap arguments;
-};
 
 namespace {
 Row row(const QString &className, const QString &field, const QString &value, const QString &type = "string")
@@ -110,11 +102,14 @@ private slots:
 
     void globalArgumentsReplaceWhatTheControlHolds()
     {
-        TFFrameSubjectZHP frame;
+        ScreenObject screen;
+        screen.setArgs({{"A", "global"}, {"B", ""}});
+        QWidget holder;
+        screen.offerOn(&holder);
+        TFFrameSubjectZHP_CQ frame(&holder);
         TFFilterWidget bar(&frame);
         bar.setFilterData(
             {row("TextEdit", "A", "own"), row("TextEdit", "B", "own"), row("TextEdit", "C", "own")});
-        frame.arguments = {{"A", "global"}, {"B", ""}};
         QCOMPARE(filters(bar), (QStringList{"A >= A_0 [global]", "B >= B_0 []", "C >= C_0 [own]"}));
     }
 

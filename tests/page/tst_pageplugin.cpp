@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include "tfcore/iplugin.h"
+#include "tfcore/itfmemory.h"
+#include "tfcore/tffactory.h"
 #include "tfcore/tfobjectpool.h"
 
 class TestPagePlugin : public SubjectTest
@@ -15,6 +17,7 @@ class TestPagePlugin : public SubjectTest
 private slots:
     void metadataNamesThePlugin();
     void pageIsMadeFromItsRegistration();
+    void componentsAreMadeByTheirNames();
 };
 
 void TestPagePlugin::metadataNamesThePlugin()
@@ -51,6 +54,25 @@ void TestPagePlugin::pageIsMadeFromItsRegistration()
 
     delete plugin;
     QVERIFY(!TFObjectPool::instance()->find("TFApp.SUBJECT"));
+}
+
+void TestPagePlugin::componentsAreMadeByTheirNames()
+{
+    QPluginLoader loader(PAGE_PLUGIN);
+    QVERIFY2(loader.load(), qPrintable(loader.errorString()));
+    QWidget parent;
+
+    for (const char *name : {"TFFrameSubjectZHP", "TFFrameSubjectZHP_CQ", "TFFrameSubjectZHP_ZZ"}) {
+        const auto construct = TFFactory<QWidget>::constructors().value(name);
+        QVERIFY2(construct, name);
+        QWidget *component = construct(&parent);
+        QCOMPARE(component->parentWidget(), &parent);
+        auto *memory = qobject_cast<ITFMemory *>(component);
+        QVERIFY(memory && memory->object() == component);
+        QVariantMap state;
+        memory->save(state);
+        QCOMPARE(state.value("version").toString(), QString("1.0.0"));
+    }
 }
 
 SUBJECT_TEST_MAIN(TestPagePlugin)
