@@ -29,11 +29,11 @@ public:
         }
     }
 
-    RowSource source() const
+    RowSource source(const SqlDialect &dialect) const
     {
         return sourceOfRows({QStringLiteral("SECT_ID"), QStringLiteral("P_SECT_ID"),
                              QStringLiteral("SECT_NAME"), QStringLiteral("SECU_TYP_CODE")},
-                            m_rows);
+                            m_rows, dialect);
     }
 
 private:
@@ -66,7 +66,7 @@ RowSource readBlocks(const QJsonObject &object, Database &database, const Docume
     BlockReader reader;
     reader.blocks(checkedObject(object, rules, place).value(QLatin1String("blocks")).toArray(),
                   place.member(QStringLiteral("blocks")));
-    return reader.source();
+    return reader.source(database.dialect());
 }
 
 QMap<QString, RowSource> readLists(const QJsonObject &object, Database &database, const DocumentPlace &place)

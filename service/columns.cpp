@@ -1,5 +1,7 @@
 #include "columns.h"
 
+#include "sqltemplate.h"
+
 namespace service {
 
 ValueKind kindOfType(const QString &valueType)
@@ -15,13 +17,34 @@ ValueKind kindOfType(const QString &valueType)
     return ValueKind::Text;
 }
 
+Columns::Columns()
+    : Columns(QVector<StoredColumn>(), {}, SqlDialect::plain())
+{}
+
 Columns::Columns(const QStringList &names, const QHash<QString, ValueKind> &kinds)
-    : m_names(names)
+    : Columns()
 {
-    for (int i = 0; i < names.size(); ++i) {
-        m_places.insert(names.at(i), i);
-        m_kinds << kinds.value(names.at(i), ValueKind::Any);
+    for (const QString &name : names)
+        add(name, {name, StoredType::Unknown}, kinds.value(name, ValueKind::Any));
+}
+
+Columns::Columns(const QVector<StoredColumn> &stored, const QHash<QString, ValueKind> &kinds,
+                 const SqlDialect &dialect)
+    : m_dialect(&dialect)
+{
+    for (const StoredColumn &column : stored) {
+        const QString name = dialect.fieldName(column.name, kinds.keys());
+        add(name, column, kinds.value(name, ValueKind::Any));
     }
+}
+
+void Columns::add(const QString &name, const StoredColumn &column, ValueKind kind)
+{
+    m_places.insert(name, m_names.size());
+    m_names << name;
+    m_kinds << kind;
+    m_inSql << quotedIdentifier(column.name);
+    m_stored << column.type;
 }
 
 QString Columns::listing() const

@@ -28,8 +28,9 @@ public:
         if (!m_condition.parameter.isEmpty() && !m_parameters.contains(m_condition.parameter))
             return refuse(filterPlace(m_condition.operandPosition),
                           QStringLiteral("no value for :%1 in filterParams").arg(m_condition.parameter));
-        m_kind = m_columns.kind(m_condition.field);
-        m_column = quotedIdentifier(m_condition.field);
+        m_kind = m_columns.comparedAs(m_condition.field);
+        m_column = m_columns.inSql(m_condition.field);
+        m_mark = m_columns.dialect().mark(m_columns.stored(m_condition.field));
         const QJsonValue value =
             m_condition.parameter.isEmpty() ? m_condition.literal : m_parameters.value(m_condition.parameter);
         if (m_condition.op == FilterOperator::In || m_condition.op == FilterOperator::NotIn)
@@ -62,7 +63,8 @@ private:
 
     BoundSql compare(const char *sqlOperator, const QVariant &value) const
     {
-        return {QStringLiteral("%1 %2 ?").arg(m_column, QLatin1String(sqlOperator)), {value}};
+        return {m_column + QLatin1Char(' ') + QLatin1String(sqlOperator) + QLatin1Char(' ') + m_mark,
+                {value}};
     }
 
     Result<BoundSql> nullTest() const
@@ -77,14 +79,24 @@ private:
     Result<BoundSql> plainTest(const QJsonValue &value) const
     {
         if (m_condition.op == FilterOperator::Like)
-            return BoundSql{m_column + QStringLiteral(" LIKE ? ESCAPE '\\'"), {likePattern(value)}};
+            return BoundSql{m_columns.dialect().like(m_column, m_columns.stored(m_condition.field)),
+                            {likePattern(value)}};
         const Result<QVariant> bound = scalar(value);
         if (!bound.ok())
             return bound.refusal();
         if (m_condition.op == FilterOperator::And)
-            return BoundSql{QStringLiteral("(%1 <> 0 AND ? <> 0)").arg(m_column), {bound.value()}};
+            return bothHold(bound.value());
         static const char *const sqlOperators[] = {">", ">=", "<", "<=", "=", "<>"};
         return compare(sqlOperators[static_cast<int>(m_condition.op)], bound.value());
+    }
+
+    /// A text is other than 0 whatever it says.
+    BoundSql bothHold(const QVariant &value) const
+    {
+        const bool isText = value.userType() == QMetaType::QString;
+        const bool isStoredText = m_columns.stored(m_condition.field) == StoredType::Text;
+        const QString zero = isStoredText ? QStringLiteral("'0'") : QStringLiteral("0");
+        return {QStringLiteral("(%1 <> %2 AND ? <> 0)").arg(m_column, zero), {isText ? QVariant(1) : value}};
     }
 
     /// A text without a wildcard is looked for anywhere in the field; one with "%" is the pattern itself.
@@ -152,10 +164,15 @@ private:
         case FilterOperator::LessOrEqual:
             return compare("<=", last);
         case FilterOperator::Equal:
-            return BoundSql{QStringLiteral("%1 BETWEEN ? AND ?").arg(m_column), {first, last}};
+            return between("BETWEEN", first, last);
         default:
-            return BoundSql{QStringLiteral("%1 NOT BETWEEN ? AND ?").arg(m_column), {first, last}};
+            return between("NOT BETWEEN", first, last);
         }
+    }
+
+    BoundSql between(const char *word, const QString &first, const QString &last) const
+    {
+        return {QStringLiteral("%1 %2 %3 AND %3").arg(m_column, QLatin1String(word), m_mark), {first, last}};
     }
 
     static QString fullText(const QDateTime &moment)
@@ -181,7 +198,7 @@ private:
         if (bound.isEmpty())
             return BoundSql{
                 m_condition.op == FilterOperator::In ? QStringLiteral("1 = 0") : QStringLiteral("1 = 1"), {}};
-        sql.append(boundList(bound));
+        sql.append(boundList(bound, m_mark));
         sql.text += QLatin1Char(')');
         return sql;
     }
@@ -207,6 +224,7 @@ private:
     const Columns &m_columns;
     ValueKind m_kind = ValueKind::Any;
     QString m_column;
+    QString m_mark; ///< place of a value beside the column
 };
 
 } // namespace

@@ -10,8 +10,26 @@ namespace {
 
 const int ConditionPrefixLength = 7; // "SELECT ", see ViewDocument::blockCondition
 
-BoundSql blockCondition(const ViewDocument &view, const QVariantList &codes)
+/// The codes for a column of that type; one that is no number can't be in a column of numbers.
+QVariantList comparableCodes(const QVariantList &codes, StoredType stored)
 {
+    if (stored == StoredType::Unknown)
+        return codes;
+    QVariantList result;
+    for (const QVariant &code : codes) {
+        bool isNumber = true;
+        const double number = code.toDouble(&isNumber);
+        if (stored != StoredType::Number)
+            result << code.toString();
+        else if (isNumber)
+            result << boundNumber(number);
+    }
+    return result;
+}
+
+BoundSql blockCondition(const ServedView &served, const QVariantList &codes)
+{
+    const ViewDocument &view = served.document;
     if (codes.isEmpty() || (view.blockField.isEmpty() && view.blockCondition.isEmpty()))
         return {};
     if (!view.blockCondition.isEmpty()) {
@@ -19,8 +37,9 @@ BoundSql blockCondition(const ViewDocument &view, const QVariantList &codes)
         condition.text = QLatin1Char('(') + condition.text.mid(ConditionPrefixLength) + QLatin1Char(')');
         return condition;
     }
-    BoundSql condition{quotedIdentifier(view.blockField) + QStringLiteral(" IN ("), {}};
-    condition.append(boundList(codes));
+    const Columns &columns = served.columns;
+    BoundSql condition{columns.inSql(view.blockField) + QStringLiteral(" IN ("), {}};
+    condition.append(boundList(comparableCodes(codes, columns.stored(view.blockField))));
     condition.text += QLatin1Char(')');
     return condition;
 }
@@ -52,18 +71,20 @@ QStringList tieBreakers(const ServedView &view, bool isPaged)
     return view.columns.names();
 }
 
-QString orderClause(const QVector<OrderTerm> &order, const QStringList &tieBreakers)
+QString orderClause(const QVector<OrderTerm> &order, const QStringList &tieBreakers, const Columns &columns)
 {
     QStringList terms;
     QSet<QString> used;
-    for (const OrderTerm &term : order) {
-        terms << quotedIdentifier(term.field) + (term.descending ? QStringLiteral(" DESC") : QString());
-        used << term.field;
-    }
-    for (const QString &field : tieBreakers) {
-        if (!used.contains(field))
-            terms << quotedIdentifier(field);
-    }
+    const auto add = [&](const QString &field, bool isDescending) {
+        if (used.contains(field))
+            return;
+        used << field;
+        terms << columns.dialect().orderTerm(columns.inSql(field), columns.stored(field), isDescending);
+    };
+    for (const OrderTerm &term : order)
+        add(term.field, term.descending);
+    for (const QString &field : tieBreakers)
+        add(field, false);
     return terms.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + terms.join(QStringLiteral(", "));
 }
 
@@ -109,8 +130,8 @@ Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request)
     if (!filter.ok())
         return filter.refusal();
     const BoundSql base = document.sql.bind(parameters.value());
-    return RowSelect{restricted(base, {filter.value(), blockCondition(document, request.blocks)}),
-                     orderClause(order, tieBreakers(view, request.page.has_value()))};
+    return RowSelect{restricted(base, {filter.value(), blockCondition(view, request.blocks)}),
+                     orderClause(order, tieBreakers(view, request.page.has_value()), view.columns)};
 }
 
 } // namespace service

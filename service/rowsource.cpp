@@ -19,7 +19,16 @@ QStringList keysOf(const QJsonArray &rows)
     return keys;
 }
 
-RowSource sourceOfJson(const QJsonArray &array, const DocumentPlace &place)
+/// No kinds, but the names as they are spelled.
+QHash<QString, ValueKind> writtenKinds(const QStringList &names)
+{
+    QHash<QString, ValueKind> kinds;
+    for (const QString &name : names)
+        kinds.insert(name, ValueKind::Any);
+    return kinds;
+}
+
+RowSource sourceOfJson(const QJsonArray &array, const SqlDialect &dialect, const DocumentPlace &place)
 {
     const QStringList names = keysOf(array);
     QVector<QVariantList> rows;
@@ -34,22 +43,27 @@ RowSource sourceOfJson(const QJsonArray &array, const DocumentPlace &place)
         }
         rows << row;
     }
-    return sourceOfRows(names, rows);
+    return sourceOfRows(names, rows, dialect);
 }
 
 } // namespace
 
-RowSource sourceOfRows(const QStringList &names, const QVector<QVariantList> &rows)
+RowSource sourceOfRows(const QStringList &names, const QVector<QVariantList> &rows, const SqlDialect &dialect)
 {
     if (names.isEmpty() || rows.isEmpty())
         return {};
+    QVector<StoredType> types;
+    const QVector<QVariantList> literals = dialect.literalRows(rows, &types);
     QStringList outputs;
-    for (int i = 0; i < names.size(); ++i)
+    QVector<StoredColumn> columns;
+    for (int i = 0; i < names.size(); ++i) {
         outputs << QStringLiteral("column%1 AS ").arg(i + 1) + quotedIdentifier(names.at(i));
+        columns << StoredColumn{names.at(i), types.at(i)};
+    }
     RowSource source;
-    source.columns = Columns(names, {});
+    source.columns = Columns(columns, writtenKinds(names), dialect);
     source.sql.text = QStringLiteral("SELECT %1 FROM (VALUES ").arg(outputs.join(QStringLiteral(", ")));
-    for (const QVariantList &row : rows) {
+    for (const QVariantList &row : literals) {
         source.sql.text += source.sql.values.isEmpty() ? QStringLiteral("(") : QStringLiteral(",(");
         source.sql.append(boundList(row));
         source.sql.text += QLatin1Char(')');
@@ -58,13 +72,13 @@ RowSource sourceOfRows(const QStringList &names, const QVector<QVariantList> &ro
     return source;
 }
 
-QStringList probeColumns(const BoundSql &sql, Database &database, const DocumentPlace &place)
+QVector<StoredColumn> probeColumns(const BoundSql &sql, Database &database, const DocumentPlace &place)
 {
     const Result<Cursor> cursor =
         database.select({QStringLiteral("SELECT * FROM (%1) AS probe LIMIT 0").arg(sql.text), sql.values});
     if (cursor.ok())
-        return cursor.value().columnNames();
-    place.fault(QStringLiteral("the database does not accept the statement: ") + database.lastFault());
+        return cursor.value().columns();
+    place.fault(QStringLiteral("the database does not accept the statement: ") + database.lastFault().text);
     return {};
 }
 
@@ -77,13 +91,13 @@ RowSource readRowSource(const QJsonValue &value, Database &database, const Docum
         return {};
     }
     if (object.contains(QLatin1String("rows")))
-        return sourceOfJson(object.value(QLatin1String("rows")).toArray(),
+        return sourceOfJson(object.value(QLatin1String("rows")).toArray(), database.dialect(),
                             place.member(QStringLiteral("rows")));
     const DocumentPlace at = place.member(QStringLiteral("sql"));
     RowSource source;
     source.sql = readSql(object.value(QLatin1String("sql")), {}, at).bind({});
     if (!source.sql.text.isEmpty())
-        source.columns = Columns(probeColumns(source.sql, database, at), {});
+        source.columns = Columns(probeColumns(source.sql, database, at), {}, database.dialect());
     return source;
 }
 

@@ -20,7 +20,8 @@ struct RowSource
 };
 
 /// A source of written \a rows, objects with the same keys; \a names are its columns, a missing key is NULL.
-RowSource sourceOfRows(const QStringList &names, const QVector<QVariantList> &rows);
+RowSource sourceOfRows(const QStringList &names, const QVector<QVariantList> &rows,
+                       const SqlDialect &dialect);
 
 /// Reads `{"sql": ...}` or `{"rows": [...]}`, and asks the database for the columns of the SQL. Faults go to
 /// \a place.
@@ -28,6 +29,6 @@ RowSource readRowSource(const QJsonValue &value, Database &database, const Docum
 
 /// The output columns of \a sql as the database tells them; empty, with a fault at \a place, when it refuses
 /// it.
-QStringList probeColumns(const BoundSql &sql, Database &database, const DocumentPlace &place);
+QVector<StoredColumn> probeColumns(const BoundSql &sql, Database &database, const DocumentPlace &place);
 
 } // namespace service

@@ -73,7 +73,8 @@ void addOptions(QCommandLineParser &parser)
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOptions({
-        {QStringLiteral("db"), QStringLiteral("SQLite database to read."), QStringLiteral("file")},
+        {QStringLiteral("db"), QStringLiteral("SQLite file to read, or postgresql://user@host:port/name."),
+         QStringLiteral("database")},
         {QStringLiteral("views"), QStringLiteral("Folder of the view documents."), QStringLiteral("folder")},
         {QStringLiteral("port"), QStringLiteral("Port; 0 takes any that is free."), QStringLiteral("port"),
          QStringLiteral("8080")},

@@ -105,14 +105,11 @@ void BoundSql::append(const BoundSql &piece)
     values += piece.values;
 }
 
-BoundSql boundList(const QVariantList &values)
+BoundSql boundList(const QVariantList &values, const QString &mark)
 {
     if (values.isEmpty())
         return {QStringLiteral("NULL"), {}};
-    QString marks(values.size() * 2 - 1, QLatin1Char(','));
-    for (int i = 0; i < marks.size(); i += 2)
-        marks[i] = QLatin1Char('?');
-    return {marks, values};
+    return {(mark + QLatin1Char(',')).repeated(values.size() - 1) + mark, values};
 }
 
 QVariant boundNumber(double number)

@@ -18,7 +18,8 @@ struct BoundSql
 };
 
 /// "?,?,?" for \a values, and the values; "NULL" for none, so that `IN (...)` stays valid and holds nothing.
-BoundSql boundList(const QVariantList &values);
+/// \a mark is the place of one value.
+BoundSql boundList(const QVariantList &values, const QString &mark = QStringLiteral("?"));
 
 /// \a number as it is bound: a whole number as an integer.
 QVariant boundNumber(double number);

@@ -147,10 +147,10 @@ QHash<QString, ValueKind> declaredKinds(const ViewDocument &view)
 
 Columns checkAgainstDatabase(const ViewDocument &view, Database &database, const DocumentPlace &place)
 {
-    const QStringList names =
+    const QVector<StoredColumn> stored =
         probeColumns(view.sql.bind(view.params), database, place.member(QStringLiteral("sql")));
-    const Columns columns(names, declaredKinds(view));
-    if (!names.isEmpty())
+    const Columns columns(stored, declaredKinds(view), database.dialect());
+    if (!stored.isEmpty())
         NameChecker(view, columns, place).run();
     return columns;
 }

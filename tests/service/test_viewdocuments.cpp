@@ -236,7 +236,7 @@ void TestViewDocuments::faultsNameFileAndPlace()
     QFETCH(QString, path);
     QFETCH(QJsonValue, value);
     QFETCH(QString, fault);
-    allowWarnings(QStringLiteral("not accepted"));
+    allowWarnings(QStringLiteral("failed: "));
     m_fixture->write(
         QStringLiteral("a/10.json"),
         changed(ServiceFixture::tableDocument(), path.split(QLatin1Char('/')), value).toObject());
