@@ -54,6 +54,12 @@ ElementReadFactory::Token ElementReadFactory::readToken(int position)
     return token;
 }
 
+void ElementReadFactory::skip(const QString &source)
+{
+    if (!source.isEmpty())
+        m_lastRead = source.at(source.size() - 1);
+}
+
 bool ElementReadFactory::startsFunction(QChar c) const
 {
     return c.isLetter() && (m_lastRead.isNull() || TFCharacters::isSplitter(m_lastRead));

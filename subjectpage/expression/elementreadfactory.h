@@ -34,6 +34,8 @@ public:
     /// The same as a value; \a position must lie inside the source.
     Token readToken(int position);
 
+    /// Leaves the last character read as after reading all of \a source.
+    void skip(const QString &source);
     /// Forgets the last character read.
     void reset() { m_lastRead = QChar(); }
 

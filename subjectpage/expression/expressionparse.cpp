@@ -1,6 +1,7 @@
 #include "expressionparse.h"
 
 #include "tfcustommath.h"
+#include "tfgluednumber.h"
 #include "tfscriptguard.h"
 
 #include <QDateTime>
@@ -16,6 +17,8 @@ using Tokens = QVector<Token>;
 // stack.
 constexpr int LongestFormula = 1 << 20;
 constexpr int DeepestNesting = 1000;
+constexpr int MostPlainFormulas = 1000;
+constexpr int LongestPlainFormula = 10000;
 
 const QString OpenBracket = QStringLiteral("(");
 const QString CloseBracket = QStringLiteral(")");
@@ -36,23 +39,15 @@ std::optional<Tokens> readAll(ElementReadFactory &factory)
     return tokens;
 }
 
-QString numberText(QString text)
-{
-    if (text.startsWith(QLatin1Char('=')))
-        text.remove(0, 1);
-    return text.contains(QLatin1Char('.')) ? QString::number(text.toDouble(), 'f')
-                                           : QString::number(text.toInt());
-}
-
-void substituteFields(Tokens &tokens, const QMap<QString, QVariant> &arguments)
+void substituteFields(Tokens &tokens, const ExpressionParse::FieldValue &fieldValue)
 {
     for (Token &token : tokens) {
         if (token.type != TFElement::String)
             continue;
-        const auto argument = arguments.constFind(token.text);
-        if (argument == arguments.constEnd())
+        const QVariant *value = fieldValue(token.text);
+        if (!value)
             continue;
-        token.text = numberText(argument->toString());
+        token.text = TFGluedNumber::text(*value);
         token.type = TFElement::Number;
     }
 }
@@ -112,6 +107,26 @@ QVariant evaluateNumber(QJSEngine &engine, const QString &script)
     return isNumber && finite ? variant : QVariant();
 }
 
+/// The pieces of the text that the formula is glued to. A call is left as it stands.
+std::optional<TFPlainFormula> compilePlain(const QString &expression)
+{
+    if (expression.size() > LongestPlainFormula)
+        return std::nullopt;
+    ElementReadFactory factory;
+    factory.setSource(expression);
+    const std::optional<Tokens> tokens = readAll(factory);
+    if (!tokens)
+        return std::nullopt;
+    QVector<TFPlainFormula::Piece> pieces;
+    const Tokens merged = mergeCalls(*tokens);
+    for (const Token &token : merged) {
+        if (token.type == TFElement::Function)
+            return std::nullopt;
+        pieces.append({token.text, token.type == TFElement::String});
+    }
+    return TFPlainFormula::compile(pieces);
+}
+
 QStringView withoutDollar(QStringView text)
 {
     return text.startsWith(QLatin1Char('$')) ? text.mid(1) : text;
@@ -156,6 +171,33 @@ ExpressionParse::~ExpressionParse() = default;
 void ExpressionParse::parse(const QString &expression, QVariant &result,
                             const QMap<QString, QVariant> &arguments)
 {
+    parseRow(expression, result, [&arguments](const QString &field) {
+        const auto argument = arguments.constFind(field);
+        return argument == arguments.constEnd() ? nullptr : &*argument;
+    });
+}
+
+void ExpressionParse::parseRow(const QString &expression, QVariant &result, const FieldValue &fieldValue)
+{
+    const std::optional<TFPlainFormula> &plain = plainFormula(expression);
+    if (plain && plain->evaluate(result, fieldValue))
+        m_factory.skip(expression);
+    else
+        parseByScript(expression, result, fieldValue);
+}
+
+const std::optional<TFPlainFormula> &ExpressionParse::plainFormula(const QString &expression)
+{
+    const auto known = m_plainFormulas.constFind(expression);
+    if (known != m_plainFormulas.constEnd())
+        return *known;
+    if (m_plainFormulas.size() >= MostPlainFormulas)
+        m_plainFormulas.clear();
+    return *m_plainFormulas.insert(expression, compilePlain(expression));
+}
+
+void ExpressionParse::parseByScript(const QString &expression, QVariant &result, const FieldValue &fieldValue)
+{
     result = QVariant();
     if (expression.size() > LongestFormula)
         return;
@@ -164,7 +206,7 @@ void ExpressionParse::parse(const QString &expression, QVariant &result,
     std::optional<Tokens> tokens = readAll(m_factory);
     if (!tokens)
         return;
-    substituteFields(*tokens, arguments);
+    substituteFields(*tokens, fieldValue);
 
     QString script;
     const Tokens merged = mergeCalls(*tokens);

@@ -211,10 +211,14 @@ QVariant TFRowBuilder::computed(const Shape &shape, int column) const
             numbers.append(m_rawValues.at(key).toDouble());
         return expression.aggregate(numbers);
     }
-    QVariantMap row;
-    for (int key = 0; key < shape.keys.names.size(); ++key)
-        row.insert(shape.keys.names.at(key), m_rawValues.at(key));
+    const QStringList &names = shape.keys.names;
+    const auto valueOf = [&](const QString &field) -> const QVariant * {
+        const auto key =
+            std::lower_bound(shape.sorted.begin(), shape.sorted.end(), field,
+                             [&names](int key, const QString &name) { return names.at(key) < name; });
+        return key != shape.sorted.end() && names.at(*key) == field ? &m_rawValues.at(*key) : nullptr;
+    };
     QVariant result;
-    m_evaluator()->parse(expression.text(), result, row);
+    m_evaluator()->parseRow(expression.text(), result, valueOf);
     return result;
 }

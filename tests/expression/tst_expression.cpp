@@ -6,7 +6,10 @@
 #include "expression/tfstringmath.h"
 #include "records/tfclock.h"
 
+#include <cmath>
+#include <cstring>
 #include <memory>
+#include <random>
 
 namespace {
 /// The elements of a formula as "type:text@end", one behind the other.
@@ -21,6 +24,88 @@ QString elementsOf(ElementReadFactory &factory, const QString &formula)
         position = qMax(position, element->endPosition()) + 1;
     }
     return elements.join(' ');
+}
+
+/// Type and bits of a result.
+QString exactly(const QVariant &result)
+{
+    const double number = result.toDouble();
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return QString("%1 %2 %3").arg(result.userType()).arg(result.toString()).arg(bits, 0, 16);
+}
+
+using Random = std::mt19937;
+
+QString pick(Random &random, const QStringList &texts)
+{
+    return texts.at(int(random() % unsigned(texts.size())));
+}
+
+/// Mostly well-formed arithmetic, with the odd thing that is not.
+QString randomFormula(Random &random, int depth = 0)
+{
+    static const QStringList operators = {"+",   "-",  "*",   "/",  "%",  "-", "*",
+                                          " - ", "- ", "* -", "--", "//", ","};
+    static const QStringList operands = {"[A]",
+                                         "[B]",
+                                         "[C]",
+                                         "[A]",
+                                         "[B]",
+                                         "1",
+                                         "0",
+                                         "100",
+                                         "2.5",
+                                         " 3",
+                                         "0.10",
+                                         "012",
+                                         "[MISSING]",
+                                         "-[A]",
+                                         "+[B]",
+                                         "1.",
+                                         ".5",
+                                         "1e3",
+                                         "99999999999999999999",
+                                         "[A][B]",
+                                         "today()",
+                                         "- - [C]"};
+    const unsigned kind = random() % 40;
+    if (depth < 4 && kind < 10)
+        return "(" + randomFormula(random, depth + 1) + ")";
+    if (depth < 4 && kind < 25)
+        return randomFormula(random, depth + 1) + operators.at(int(random() % (random() % 8 ? 9 : 13))) +
+               randomFormula(random, depth + 1);
+    return operands.at(int(random() % (random() % 8 ? 9 : 22)));
+}
+
+QVariant randomNumber(Random &random)
+{
+    static const QStringList texts = {
+        "",      "0",      "-0",          "-0.0",      "=5",   "=-1.25",     "1,000.5", "1.5e20",
+        "-1.e3", "1.e400", ".5",          "nan",       "inf.", "-0.0000001", "abc",     "2147483648",
+        "- 1",   "+3.5",   "-2147483648", "0.0078125", "1e5",  " 7 ",        "1.0.0"};
+    const double sign = random() % 3 ? 1 : -1;
+    switch (random() % 12) {
+    case 0:
+        return pick(random, texts);
+    case 1:
+        return int(random()) >> (random() % 31);
+    case 2:
+        return qlonglong(random()) * qlonglong(random() % 5);
+    case 3: // halves at the sixth decimal
+        return sign * (random() % 100000) / 128.0 / (1 << random() % 8);
+    case 4:
+        return sign * std::ldexp(double(random()), int(random() % 200) - 120);
+    case 5: // whole numbers with many zeros
+        return sign * (random() % 30) * std::pow(10, random() % 22);
+    case 6:
+        return QString::number(sign * random() / 1e5, 'f', int(random() % 9));
+    case 7:
+        return QList<QVariant>{QVariant(), true, -0.0, qInf(), qQNaN(), uint(random()), QDateTime(), 'x'}.at(
+            int(random() % 8));
+    default:
+        return sign * (random() % 1000000) / std::pow(10, random() % 5);
+    }
 }
 
 QString resultOf(const QVariant &result)
@@ -45,6 +130,7 @@ private slots:
     void elementOutsideTheSourceIsNull();
     void formulaEvaluatesOverARow_data();
     void formulaEvaluatesOverARow();
+    void plainFormulaEqualsTheScriptEngine();
     void wordAtTheStartIsJudgedByTheFormulaBefore();
     void callsNestInTheirOneArgument_data();
     void callsNestInTheirOneArgument();
@@ -166,6 +252,34 @@ void TestExpression::formulaEvaluatesOverARow()
     QVariant value = "left over";
     parser.parse(formula, value, row);
     QCOMPARE(resultOf(value), result);
+}
+
+void TestExpression::plainFormulaEqualsTheScriptEngine()
+{
+    Random random(7);
+    ExpressionParse parser;
+    ExpressionParse script;
+    constexpr int Rounds = 30000;
+    int valid = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        const QString formula = randomFormula(random);
+        const QVariantMap row = {
+            {"A", randomNumber(random)}, {"B", randomNumber(random)}, {"C", randomNumber(random)}};
+        const auto field = [&row](const QString &name) {
+            const auto found = row.find(name);
+            return found == row.end() ? nullptr : &*found;
+        };
+        QVariant computed = "left over";
+        QVariant told;
+        parser.parse(formula, computed, row);
+        script.parseByScript(formula, told, field);
+        QVERIFY2(exactly(computed) == exactly(told),
+                 qPrintable(QString("%1: %2 for %3, %4, %5, %6")
+                                .arg(formula, exactly(computed), exactly(told), row["A"].toString(),
+                                     row["B"].toString(), row["C"].toString())));
+        valid += computed.isValid() ? 1 : 0;
+    }
+    QVERIFY2(valid > Rounds / 2, qPrintable(QString::number(valid)));
 }
 
 void TestExpression::wordAtTheStartIsJudgedByTheFormulaBefore()
