@@ -109,7 +109,7 @@ private slots:
                                                    {"Nobody", ""},
                                                    {"", ""}};
         for (const auto &c : cases)
-            QTest::newRow(qPrintable(c.first + '-')) << c.first << c.second;
+            testRow(qPrintable(c.first + '-'), c.first, c.second);
     }
     void classNameSelectsTheControlInOrder()
     {
@@ -128,67 +128,26 @@ private slots:
         QTest::addColumn<QString>("defaultValue");
         QTest::addColumn<QString>("valueType");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("text") << "TextEdit"
-                              << "ab"
-                              << "string"
-                              << "F | == | string | ab";
-        QTest::newRow("day ends late") << "DateEdit"
-                                       << "=date'2020-03-01'"
-                                       << "datetime"
-                                       << "F | == | datetime | 2020-03-01 23:59:59";
-        QTest::newRow("interval") << "DateTimeInterval"
-                                  << "=date'2020-01-01';$today()"
-                                  << "datetime"
-                                  << "F | >=,<= | datetime | 2020-01-01 00:00:00,2021-05-20 23:59:59 *";
-        QTest::newRow("last thirty days")
-            << "DateTimeInterval"
-            << "$adddays(-30);$today()"
-            << "datetime"
-            << "F | >=,<= | datetime | 2021-04-20 00:00:00,2021-05-20 23:59:59 *";
-        QTest::newRow("start after end") << "DateTimeInterval"
-                                         << "date'2021-06-01';date'2021-05-01'"
-                                         << ""
-                                         << "F | >=,<= |  | 2021-06-01 00:00:00,2021-06-01 23:59:59 *";
-        QTest::newRow("one part is ignored") << "DateTimeInterval"
-                                             << "date'2020-01-01'"
-                                             << ""
-                                             << "F | >=,<= |  | 2021-05-20 00:00:00,2021-05-20 23:59:59 *";
-        QTest::newRow("empty range") << "DecimalTextEditInterval"
-                                     << "0;0"
-                                     << "decimal"
-                                     << "-";
-        QTest::newRow("range") << "DecimalTextEditInterval"
-                               << "=0;5"
-                               << "decimal"
-                               << "F | >=,<= | decimal | 0,5 *";
-        QTest::newRow("hidden numbers") << "F9SecuIdCntrl"
-                                        << "1;2;3"
-                                        << "decimal"
-                                        << "F | == | intlist | [1|2|3]";
-        QTest::newRow("hidden text keeps =") << "VirtualCntrl"
-                                             << "=12"
-                                             << "string"
-                                             << "F | == | string | =12";
-        QTest::newRow("single year") << "SimpleYear"
-                                     << "=2018-05-31"
-                                     << ""
-                                     << "F | == |  | 2018";
-        QTest::newRow("many years") << "MultYear"
-                                    << "2020"
-                                    << ""
-                                    << "F | in | stringList | [2020]";
-        QTest::newRow("month") << "YearMonthSimple"
-                               << "=date'2019-03-31'"
-                               << "string"
-                               << "F | == | string | 201903";
-        QTest::newRow("months") << "YearMonthInterval"
-                                << ""
-                                << "MONTH"
-                                << "MONTH | >=,<= |  | '2021-1','2021-1' *";
-        QTest::newRow("button") << "SimpleButtonGetData"
-                                << ""
-                                << ""
-                                << "-";
+        testRow("text", "TextEdit", "ab", "string", "F | == | string | ab");
+        testRow("day ends late", "DateEdit", "=date'2020-03-01'", "datetime",
+                "F | == | datetime | 2020-03-01 23:59:59");
+        testRow("interval", "DateTimeInterval", "=date'2020-01-01';$today()", "datetime",
+                "F | >=,<= | datetime | 2020-01-01 00:00:00,2021-05-20 23:59:59 *");
+        testRow("last thirty days", "DateTimeInterval", "$adddays(-30);$today()", "datetime",
+                "F | >=,<= | datetime | 2021-04-20 00:00:00,2021-05-20 23:59:59 *");
+        testRow("start after end", "DateTimeInterval", "date'2021-06-01';date'2021-05-01'", "",
+                "F | >=,<= |  | 2021-06-01 00:00:00,2021-06-01 23:59:59 *");
+        testRow("one part is ignored", "DateTimeInterval", "date'2020-01-01'", "",
+                "F | >=,<= |  | 2021-05-20 00:00:00,2021-05-20 23:59:59 *");
+        testRow("empty range", "DecimalTextEditInterval", "0;0", "decimal", "-");
+        testRow("range", "DecimalTextEditInterval", "=0;5", "decimal", "F | >=,<= | decimal | 0,5 *");
+        testRow("hidden numbers", "F9SecuIdCntrl", "1;2;3", "decimal", "F | == | intlist | [1|2|3]");
+        testRow("hidden text keeps =", "VirtualCntrl", "=12", "string", "F | == | string | =12");
+        testRow("single year", "SimpleYear", "=2018-05-31", "", "F | == |  | 2018");
+        testRow("many years", "MultYear", "2020", "", "F | in | stringList | [2020]");
+        testRow("month", "YearMonthSimple", "=date'2019-03-31'", "string", "F | == | string | 201903");
+        testRow("months", "YearMonthInterval", "", "MONTH", "MONTH | >=,<= |  | '2021-1','2021-1' *");
+        testRow("button", "SimpleButtonGetData", "", "", "-");
     }
     void defaultBecomesTheReportedValue()
     {
@@ -310,7 +269,7 @@ private slots:
     {
         QTest::addColumn<QString>("className");
         for (const char *name : {"TextEdit", "DateEdit", "DecimalTextEditInterval", "ComboBox", "SimpleYear"})
-            QTest::newRow(name) << QString(name);
+            testRow(name, QString(name));
     }
     void dotTellsAControlThatIsNotOnItsDefault()
     {
@@ -331,8 +290,8 @@ private slots:
     {
         QTest::addColumn<int>("language");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("Chinese") << int(TFServiceConfig::Chinese) << "2019年|半年报";
-        QTest::newRow("English") << int(TFServiceConfig::English) << "2019年|Half year";
+        testRow("Chinese", int(TFServiceConfig::Chinese), "2019年|半年报");
+        testRow("English", int(TFServiceConfig::English), "2019年|Half year");
     }
     void catalogueNamesPeriodsAndSuffixes()
     {
@@ -361,31 +320,13 @@ private slots:
         QTest::addColumn<QString>("category");
         QTest::addColumn<QString>("period");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("third quarter") << "ReportDateSimple"
-                                       << "=date'2019-09-30'"
-                                       << "1"
-                                       << "三季度"
-                                       << "2019-09-30";
-        QTest::newRow("whole year") << "ReportDateSimple"
-                                    << "=date'2019-12-31'"
-                                    << "1"
-                                    << "年度"
-                                    << "2019-12-31";
-        QTest::newRow("service text") << "ReportDateSimple"
-                                      << "=date'2019-12-31'"
-                                      << "2"
-                                      << "年度"
-                                      << "/Date(1577721600000+0800)";
-        QTest::newRow("no category") << "ReportDateSimple"
-                                     << "=date'2019-12-31'"
-                                     << "0"
-                                     << "年度"
-                                     << "";
-        QTest::newRow("a name that is no period") << "ReportDateSimple"
-                                                  << "=date'2019-12-31'"
-                                                  << "1"
-                                                  << "Annual Report"
-                                                  << "2018-12-31";
+        testRow("third quarter", "ReportDateSimple", "=date'2019-09-30'", "1", "三季度", "2019-09-30");
+        testRow("whole year", "ReportDateSimple", "=date'2019-12-31'", "1", "年度", "2019-12-31");
+        testRow("service text", "ReportDateSimple", "=date'2019-12-31'", "2", "年度",
+                "/Date(1577721600000+0800)");
+        testRow("no category", "ReportDateSimple", "=date'2019-12-31'", "0", "年度", "");
+        testRow("a name that is no period", "ReportDateSimple", "=date'2019-12-31'", "1", "Annual Report",
+                "2018-12-31");
     }
     void reportPeriodGoesOutByItsCategory()
     {

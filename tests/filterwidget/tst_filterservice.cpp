@@ -78,37 +78,31 @@ private slots:
         QTest::addColumn<Row>("control");
         QTest::addColumn<QString>("symbols");
         const QString all = "01 02 03 04 05 06 07 08 09 10 11 12";
-        QTest::newRow("text") << row("TextEdit", "SYMBOL", "S03", "string") << "03";
-        QTest::newRow("a part of a text") << row("TextEdit", "SYMBOL", "S1", "string", "LIKE") << "10 11 12";
-        QTest::newRow("number as text") << row("TextEdit", "SECTOR", "2", "decimal") << "02 05 08 11";
-        QTest::newRow("numbers as texts")
-            << row("TextEdit", "SECTOR", "1,3", "decimal", "IN") << "01 03 04 06 07 09 10 12";
-        QTest::newRow("list of texts") << row("TextEdit", "SYMBOL", "S01,S12", "string", "IN") << "01 12";
-        QTest::newRow("not in a list")
-            << row("VirtualCntrl", "SECTOR", "1;3", "decimal", "NotIn") << "02 05 08 11";
-        QTest::newRow("hidden list of numbers")
-            << row("VirtualCntrl", "SECTOR", "2;3", "decimal", "IN") << "02 03 05 06 08 09 11 12";
-        QTest::newRow("date in brackets")
-            << row("DateEdit", "DAY", "=date'2020-01-03'", "datetime", "<=") << "01 02 03";
-        QTest::newRow("days in brackets")
-            << row("DateTimeInterval", "DAY", "date'2020-01-05';date'2020-01-06'", "datetime") << "05 06";
-        QTest::newRow("service date text in brackets")
-            << row("VirtualCntrl", "DAY", "2020-01-11", "datetime", ">=") << "11 12";
-        QTest::newRow("service date text")
-            << row("ReportDateSimple", "DAY", "=date'2019-12-31'", "", ">") << all;
-        QTest::newRow("range of numbers")
-            << row("DecimalTextEditInterval", "PRICE", "2;4", "decimal") << "02";
-        QTest::newRow("a year") << withNames(row("SimpleYear", "Y", "2020", "decimal"), "2020年=1") << all;
-        QTest::newRow("many years") << withNames(row("MultYear", "Y", "2020", "", "="), "2019年=1;2020年=2")
-                                    << all;
-        QTest::newRow("month") << row("YearMonthSimple", "YM", "=date'2019-12-01'", "string", ">=") << all;
-        QTest::newRow("months in quotes")
-            << withNames(row("YearMonthInterval", "", "", "DAY"), "2020年") << all;
-        QTest::newRow("list entry") << withNames(row("ComboBox", "SECTOR", "3", "decimal"), "甲=1;丙=3")
-                                    << "03 06 09 12";
-        QTest::newRow("ticked entries")
-            << withNames(row("CheckComboBox", "EXCHANGE", "", "string", "IN"), "A=A;Z=Z")
-            << "01 03 05 07 09 11";
+        testRow("text", row("TextEdit", "SYMBOL", "S03", "string"), "03");
+        testRow("a part of a text", row("TextEdit", "SYMBOL", "S1", "string", "LIKE"), "10 11 12");
+        testRow("number as text", row("TextEdit", "SECTOR", "2", "decimal"), "02 05 08 11");
+        testRow("numbers as texts", row("TextEdit", "SECTOR", "1,3", "decimal", "IN"),
+                "01 03 04 06 07 09 10 12");
+        testRow("list of texts", row("TextEdit", "SYMBOL", "S01,S12", "string", "IN"), "01 12");
+        testRow("not in a list", row("VirtualCntrl", "SECTOR", "1;3", "decimal", "NotIn"), "02 05 08 11");
+        testRow("hidden list of numbers", row("VirtualCntrl", "SECTOR", "2;3", "decimal", "IN"),
+                "02 03 05 06 08 09 11 12");
+        testRow("date in brackets", row("DateEdit", "DAY", "=date'2020-01-03'", "datetime", "<="),
+                "01 02 03");
+        testRow("days in brackets",
+                row("DateTimeInterval", "DAY", "date'2020-01-05';date'2020-01-06'", "datetime"), "05 06");
+        testRow("service date text in brackets", row("VirtualCntrl", "DAY", "2020-01-11", "datetime", ">="),
+                "11 12");
+        testRow("service date text", row("ReportDateSimple", "DAY", "=date'2019-12-31'", "", ">"), all);
+        testRow("range of numbers", row("DecimalTextEditInterval", "PRICE", "2;4", "decimal"), "02");
+        testRow("a year", withNames(row("SimpleYear", "Y", "2020", "decimal"), "2020年=1"), all);
+        testRow("many years", withNames(row("MultYear", "Y", "2020", "", "="), "2019年=1;2020年=2"), all);
+        testRow("month", row("YearMonthSimple", "YM", "=date'2019-12-01'", "string", ">="), all);
+        testRow("months in quotes", withNames(row("YearMonthInterval", "", "", "DAY"), "2020年"), all);
+        testRow("list entry", withNames(row("ComboBox", "SECTOR", "3", "decimal"), "甲=1;丙=3"),
+                "03 06 09 12");
+        testRow("ticked entries", withNames(row("CheckComboBox", "EXCHANGE", "", "string", "IN"), "A=A;Z=Z"),
+                "01 03 05 07 09 11");
     }
     void everyShapeOfValueIsUnderstood()
     {

@@ -133,8 +133,8 @@ private slots:
     void repeatedColumnIsRefusedWithAWarning_data()
     {
         QTest::addColumn<int>("count");
-        QTest::newRow("no row at all") << 0;
-        QTest::newRow("one field, both directions") << 2;
+        testRow("no row at all", 0);
+        testRow("one field, both directions", 2);
     }
     void repeatedColumnIsRefusedWithAWarning()
     {

@@ -89,12 +89,11 @@ void SkinsTest::textIsReadable_data()
 {
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<QStringList>("grounds");
-    QTest::newRow("on surfaces") << QStringList{"text", "muted", "accent", "link", "rise", "fall", "warning"}
-                                 << QStringList{"window", "panel", "header", "alternate", "hover", "control"};
-    QTest::newRow("on the selected row") << QStringList{"selectedText"} << QStringList{"selected"};
-    QTest::newRow("on filled buttons")
-        << QStringList{"onAccent"} << QStringList{"accent", "accentHover", "accentDown"};
-    QTest::newRow("on tool tips") << QStringList{"text"} << QStringList{"tip"};
+    testRow("on surfaces", QStringList{"text", "muted", "accent", "link", "rise", "fall", "warning"},
+            QStringList{"window", "panel", "header", "alternate", "hover", "control"});
+    testRow("on the selected row", QStringList{"selectedText"}, QStringList{"selected"});
+    testRow("on filled buttons", QStringList{"onAccent"}, QStringList{"accent", "accentHover", "accentDown"});
+    testRow("on tool tips", QStringList{"text"}, QStringList{"tip"});
 }
 
 void SkinsTest::textIsReadable()

@@ -12,8 +12,8 @@ private slots:
     void everyTextIsTranslated_data()
     {
         QTest::addColumn<QString>("catalogue");
-        QTest::newRow("Chinese") << "terminal_zh_CN.ts";
-        QTest::newRow("English") << "terminal_en.ts";
+        testRow("Chinese", "terminal_zh_CN.ts");
+        testRow("English", "terminal_en.ts");
     }
 
     void everyTextIsTranslated()

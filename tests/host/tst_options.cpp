@@ -14,13 +14,13 @@ private slots:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QString>("named");
-        QTest::newRow("unknown") << QStringList{"--colour", "red"} << "colour";
-        QTest::newRow("no value") << QStringList{"--service"} << "service";
-        QTest::newRow("no address") << QStringList{"--service", "data"} << "--service";
-        QTest::newRow("file address") << QStringList{"--service", "file:///etc"} << "--service";
-        QTest::newRow("language") << QStringList{"--language", "fr"} << "--language";
-        QTest::newRow("size") << QStringList{"--size", "0x900"} << "--size";
-        QTest::newRow("stray word") << QStringList{"view://subjectpage"} << "view://subjectpage";
+        testRow("unknown", QStringList{"--colour", "red"}, "colour");
+        testRow("no value", QStringList{"--service"}, "service");
+        testRow("no address", QStringList{"--service", "data"}, "--service");
+        testRow("file address", QStringList{"--service", "file:///etc"}, "--service");
+        testRow("language", QStringList{"--language", "fr"}, "--language");
+        testRow("size", QStringList{"--size", "0x900"}, "--size");
+        testRow("stray word", QStringList{"view://subjectpage"}, "view://subjectpage");
     }
 
     void wrongUsageNamesTheOption()

@@ -90,15 +90,16 @@ private slots:
     {
         QTest::addColumn<QByteArray>("program");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("none") << QByteArray() << "the data service is not there: .*/service";
-        QTest::newRow("no program") << QByteArray("\x7f"
-                                                  "ELFnonsense")
-                                    << "cannot be started|ended with status";
-        QTest::newRow("complains") << QByteArray("#!/bin/sh\necho 'disk is full' >&2\nexit 4\n")
-                                   << "ended with status 4: disk is full";
-        QTest::newRow("silent") << QByteArray("#!/bin/sh\nexec sleep 100\n") << "gave no address within";
-        QTest::newRow("chatter") << QByteArray("#!/bin/sh\necho listening on nothing\nexec sleep 100\n")
-                                 << "gave no address within";
+        testRow("none", QByteArray(), "the data service is not there: .*/service");
+        testRow("no program",
+                QByteArray("\x7f"
+                           "ELFnonsense"),
+                "cannot be started|ended with status");
+        testRow("complains", QByteArray("#!/bin/sh\necho 'disk is full' >&2\nexit 4\n"),
+                "ended with status 4: disk is full");
+        testRow("silent", QByteArray("#!/bin/sh\nexec sleep 100\n"), "gave no address within");
+        testRow("chatter", QByteArray("#!/bin/sh\necho listening on nothing\nexec sleep 100\n"),
+                "gave no address within");
     }
 
     void serviceThatCannotStartGivesAReason()

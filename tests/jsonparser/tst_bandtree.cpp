@@ -74,23 +74,22 @@ void TestBandTree::flatListBecomesATree_data()
     hiddenBand.visible = false;
     HeaderFieldInfo hiddenLeaf = field("a", "B");
     hiddenLeaf.visible = false;
-    QTest::newRow("nothing") << Fields() << "" << 1;
-    QTest::newRow("three columns") << Fields{field("a"), field("b", "0"), field("c")} << "a b c" << 2;
-    QTest::newRow("columns before their bands")
-        << Fields{field("c", "C"), field("a", "B"), field("B"), field("C", "B"), field("z")} << "B{a C{c}} z"
-        << 4;
-    QTest::newRow("unknown band") << Fields{field("a", "none"), field("b")} << "b" << 2;
-    QTest::newRow("band names match exactly") << Fields{field("a", "b"), field("B")} << "B" << 2;
-    QTest::newRow("hidden band takes its columns along")
-        << Fields{hiddenBand, field("a", "B"), field("b")} << "b" << 2;
-    QTest::newRow("hidden column leaves its band a column") << Fields{field("B"), hiddenLeaf} << "B" << 2;
-    QTest::newRow("bands in a circle")
-        << Fields{field("A", "B"), field("B", "A"), field("C", "C"), field("x")} << "x" << 2;
-    QTest::newRow("two bands of one name")
-        << Fields{field("B"), field("a", "B"), field("B"), field("b", "B")} << "B{a b} B" << 3;
-    QTest::newRow("column without a name") << Fields{field(""), field("a"), field("b")} << " a b" << 2;
-    QTest::newRow("band called 0") << Fields{field("0"), field("a", "0"), field("b")} << "0 a b" << 2;
-    QTest::newRow("one column twice") << Fields{field("a"), field("a")} << "a a" << 2;
+    testRow("nothing", Fields(), "", 1);
+    testRow("three columns", Fields{field("a"), field("b", "0"), field("c")}, "a b c", 2);
+    testRow("columns before their bands",
+            Fields{field("c", "C"), field("a", "B"), field("B"), field("C", "B"), field("z")}, "B{a C{c}} z",
+            4);
+    testRow("unknown band", Fields{field("a", "none"), field("b")}, "b", 2);
+    testRow("band names match exactly", Fields{field("a", "b"), field("B")}, "B", 2);
+    testRow("hidden band takes its columns along", Fields{hiddenBand, field("a", "B"), field("b")}, "b", 2);
+    testRow("hidden column leaves its band a column", Fields{field("B"), hiddenLeaf}, "B", 2);
+    testRow("bands in a circle", Fields{field("A", "B"), field("B", "A"), field("C", "C"), field("x")}, "x",
+            2);
+    testRow("two bands of one name", Fields{field("B"), field("a", "B"), field("B"), field("b", "B")},
+            "B{a b} B", 3);
+    testRow("column without a name", Fields{field(""), field("a"), field("b")}, " a b", 2);
+    testRow("band called 0", Fields{field("0"), field("a", "0"), field("b")}, "0 a b", 2);
+    testRow("one column twice", Fields{field("a"), field("a")}, "a a", 2);
 }
 
 void TestBandTree::flatListBecomesATree()

@@ -414,35 +414,20 @@ void TestParser::aggregateCellsFollowTheirOddRules_data()
     QTest::addColumn<QString>("row");
     QTest::addColumn<QString>("value");
     const QString years = R"({"2019__ROE":2,"2020__ROE":"3","NAME":"text"})";
-    QTest::newRow("sum counts text as 0") << "SUM([ROE])" << years << "double:5";
-    QTest::newRow("sum leaves the field itself out") << "sum[ROE]"
-                                                     << R"({"roe":100,"2019__ROE":2})"
-                                                     << "double:2";
-    QTest::newRow("suffix with a mark counts though it equals") << "SUM([a__ROE])"
-                                                                << R"({"x__a__ROE":1,"A__ROE":2})"
-                                                                << "double:1";
-    QTest::newRow("sum of nothing") << "SUM([ROE])"
-                                    << "{}"
-                                    << "double:0";
-    QTest::newRow("average is matched and has no computation") << "AVERAGE([ROE])" << years << "-";
-    QTest::newRow("avgerage is a formula") << "AVGERAGE([ROE])" << years << "-";
-    QTest::newRow("product to the power of the count") << "GEOMEAN([ROE])"
-                                                       << R"({"a":2,"b":3})"
-                                                       << "double:36";
-    QTest::newRow("product of nothing") << "GEOMEAN([ROE])"
-                                        << "{}"
-                                        << "-";
-    QTest::newRow("largest has no implicit 0") << "MAX([ROE])"
-                                               << R"({"a":-2,"b":-3})"
-                                               << "double:-2";
-    QTest::newRow("largest of nothing") << "MAX([ROE])"
-                                        << R"({"ROE":1})"
-                                        << "-";
-    QTest::newRow("no suffix") << "SUM([])" << years << "-";
-    QTest::newRow("text around it is ignored") << "1+Max([ROE])*5"
-                                               << R"({"a":4})"
-                                               << "double:4";
-    QTest::newRow("a formula") << "[2019__ROE]*[2020__ROE]" << years << "int:6";
+    testRow("sum counts text as 0", "SUM([ROE])", years, "double:5");
+    testRow("sum leaves the field itself out", "sum[ROE]", R"({"roe":100,"2019__ROE":2})", "double:2");
+    testRow("suffix with a mark counts though it equals", "SUM([a__ROE])", R"({"x__a__ROE":1,"A__ROE":2})",
+            "double:1");
+    testRow("sum of nothing", "SUM([ROE])", "{}", "double:0");
+    testRow("average is matched and has no computation", "AVERAGE([ROE])", years, "-");
+    testRow("avgerage is a formula", "AVGERAGE([ROE])", years, "-");
+    testRow("product to the power of the count", "GEOMEAN([ROE])", R"({"a":2,"b":3})", "double:36");
+    testRow("product of nothing", "GEOMEAN([ROE])", "{}", "-");
+    testRow("largest has no implicit 0", "MAX([ROE])", R"({"a":-2,"b":-3})", "double:-2");
+    testRow("largest of nothing", "MAX([ROE])", R"({"ROE":1})", "-");
+    testRow("no suffix", "SUM([])", years, "-");
+    testRow("text around it is ignored", "1+Max([ROE])*5", R"({"a":4})", "double:4");
+    testRow("a formula", "[2019__ROE]*[2020__ROE]", years, "int:6");
 }
 
 void TestParser::aggregateCellsFollowTheirOddRules()
@@ -510,25 +495,22 @@ void TestParser::exportGivesPlainValues_data()
         {"ColumnType", "BANDEDGridColumnWithUnit"}, {"PrevUnitFactor", 1}, {"ShowUnitFactor", 10000}};
     const QJsonObject date{{"ValueType", "DateTime"}};
     const double millis = 1596211200000; // 2020-08-01 00:00 in Shanghai
-    QTest::newRow("no value") << QJsonObject() << QJsonValue(QJsonValue::Undefined) << "QString: ";
-    QTest::newRow("two decimals") << QJsonObject() << QJsonValue(1234567.891) << "double:1234567.89";
-    QTest::newRow("number in a text") << QJsonObject() << QJsonValue("12.345") << "double:12.35";
-    QTest::newRow("no decimals is an integer")
-        << QJsonObject{{"FormatString", "N0"}} << QJsonValue(1234567.8) << "qlonglong:1234568";
-    QTest::newRow("four decimals") << QJsonObject{{"FormatString", "n4"}} << QJsonValue(1.00006)
-                                   << "double:1.0001";
-    QTest::newRow("no number") << QJsonObject() << QJsonValue("--") << "QString:--";
-    QTest::newRow("unit column") << unit << QJsonValue(25000) << "double:2.5";
-    QTest::newRow("factor without a unit column")
-        << QJsonObject{{"ShowUnitFactor", 10000}} << QJsonValue(25000) << "double:25000";
-    QTest::newRow("text is trimmed") << QJsonObject{{"ValueType", "LongSTRING"}} << QJsonValue(" a ")
-                                     << "QString:a";
-    QTest::newRow("date") << date << QJsonValue(millis) << "QString:2020-08-01";
-    QTest::newRow("date in its format") << QJsonObject{{"ValueType", "datetime"}, {"FormatString", "yyyy/M"}}
-                                        << QJsonValue(millis) << "QString:2020/8";
-    QTest::newRow("null date") << date << QJsonValue() << "QString:";
-    QTest::newRow("another type stays")
-        << QJsonObject{{"ValueType", "Int32"}} << QJsonValue(true) << "bool:true";
+    testRow("no value", QJsonObject(), QJsonValue(QJsonValue::Undefined), "QString: ");
+    testRow("two decimals", QJsonObject(), QJsonValue(1234567.891), "double:1234567.89");
+    testRow("number in a text", QJsonObject(), QJsonValue("12.345"), "double:12.35");
+    testRow("no decimals is an integer", QJsonObject{{"FormatString", "N0"}}, QJsonValue(1234567.8),
+            "qlonglong:1234568");
+    testRow("four decimals", QJsonObject{{"FormatString", "n4"}}, QJsonValue(1.00006), "double:1.0001");
+    testRow("no number", QJsonObject(), QJsonValue("--"), "QString:--");
+    testRow("unit column", unit, QJsonValue(25000), "double:2.5");
+    testRow("factor without a unit column", QJsonObject{{"ShowUnitFactor", 10000}}, QJsonValue(25000),
+            "double:25000");
+    testRow("text is trimmed", QJsonObject{{"ValueType", "LongSTRING"}}, QJsonValue(" a "), "QString:a");
+    testRow("date", date, QJsonValue(millis), "QString:2020-08-01");
+    testRow("date in its format", QJsonObject{{"ValueType", "datetime"}, {"FormatString", "yyyy/M"}},
+            QJsonValue(millis), "QString:2020/8");
+    testRow("null date", date, QJsonValue(), "QString:");
+    testRow("another type stays", QJsonObject{{"ValueType", "Int32"}}, QJsonValue(true), "bool:true");
 }
 
 void TestParser::exportGivesPlainValues()
@@ -557,19 +539,17 @@ void TestParser::exportRefusesBadReplies_data()
     QTest::addColumn<QByteArray>("reply");
     QTest::addColumn<bool>("ok");
     QTest::addColumn<QString>("said");
-    QTest::newRow("nothing") << QByteArray() << false << "json is Empty";
-    QTest::newRow("no json") << QByteArray("<html>") << false
-                             << "parseData read json file failed... \"illegal value\"";
-    QTest::newRow("no keys") << QByteArray("{}") << false << "";
-    QTest::newRow("a list") << QByteArray("[1]") << false << "";
-    QTest::newRow("bad state") << QByteArray(R"({"state":0,"msg":"out of order","data":{"Data":[]}})")
-                               << false << "\"out of order\"";
-    QTest::newRow("state as text") << QByteArray(R"({"state":"1","msg":"text","data":{"Data":[]}})") << false
-                                   << "\"text\"";
-    QTest::newRow("empty data") << QByteArray(R"({"state":1,"data":{}})") << false << "";
-    QTest::newRow("no rows") << QByteArray(R"({"state":1,"data":{"Summary":[]}})") << true << "";
-    QTest::newRow("rows of a wrong type")
-        << QByteArray(R"({"state":1,"data":{"Data":{"a":1}}})") << true << "";
+    testRow("nothing", QByteArray(), false, "json is Empty");
+    testRow("no json", QByteArray("<html>"), false, "parseData read json file failed... \"illegal value\"");
+    testRow("no keys", QByteArray("{}"), false, "");
+    testRow("a list", QByteArray("[1]"), false, "");
+    testRow("bad state", QByteArray(R"({"state":0,"msg":"out of order","data":{"Data":[]}})"), false,
+            "\"out of order\"");
+    testRow("state as text", QByteArray(R"({"state":"1","msg":"text","data":{"Data":[]}})"), false,
+            "\"text\"");
+    testRow("empty data", QByteArray(R"({"state":1,"data":{}})"), false, "");
+    testRow("no rows", QByteArray(R"({"state":1,"data":{"Summary":[]}})"), true, "");
+    testRow("rows of a wrong type", QByteArray(R"({"state":1,"data":{"Data":{"a":1}}})"), true, "");
 }
 
 void TestParser::exportRefusesBadReplies()
@@ -588,10 +568,10 @@ void TestParser::precisionComesFromTheFormatCode_data()
 {
     QTest::addColumn<int>("precision");
     for (int i = 0; i <= 20; ++i)
-        QTest::newRow(qPrintable(QString(i % 2 ? "n%1" : "N%1").arg(i))) << i;
+        testRow(qPrintable(QString(i % 2 ? "n%1" : "N%1").arg(i)), i);
     for (const char *other :
          {"", "n", "n21", "n05", "n00", "n1x", "nn", "x2", "n-1", "n200", "#,##0.0", "n4 "})
-        QTest::newRow(other) << 2;
+        testRow(other, 2);
 }
 
 void TestParser::precisionComesFromTheFormatCode()

@@ -79,7 +79,7 @@ void TestTables::viewPropertiesMatchAsEachNameSays_data()
     QTest::addColumn<QByteArray>("row");
     QTest::addColumn<QString>("set");
     const auto row = [](const char *name, const QByteArray &row, const char *set) {
-        QTest::newRow(name) << row << QString(set);
+        testRow(name, row, QString(set));
     };
     row("order anywhere in the name", R"({"prop_name":"xIsOrDeRy","prop_val":"1"})", "order");
     row("cross is exact", R"({"prop_name":"isCross","prop_val":"1"})", "");
@@ -129,10 +129,10 @@ void TestTables::viewIdComesFromTheFirstObject_data()
 {
     QTest::addColumn<QByteArray>("rows");
     QTest::addColumn<int>("viewId");
-    QTest::newRow("no rows") << QByteArray("[]") << -1;
-    QTest::newRow("first object") << QByteArray(R"(["x", {"obj_vw_id": 260}, {"obj_vw_id": 261}])") << 260;
-    QTest::newRow("zero stays") << QByteArray(R"([{"obj_vw_id": 0}, {"obj_vw_id": 261}])") << 0;
-    QTest::newRow("a text reads as 0") << QByteArray(R"([{"obj_vw_id": "260"}])") << 0;
+    testRow("no rows", QByteArray("[]"), -1);
+    testRow("first object", QByteArray(R"(["x", {"obj_vw_id": 260}, {"obj_vw_id": 261}])"), 260);
+    testRow("zero stays", QByteArray(R"([{"obj_vw_id": 0}, {"obj_vw_id": 261}])"), 0);
+    testRow("a text reads as 0", QByteArray(R"([{"obj_vw_id": "260"}])"), 0);
 }
 
 void TestTables::viewIdComesFromTheFirstObject()
@@ -147,14 +147,10 @@ void TestTables::orderBecomesAnObjectOfSigns_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("order");
-    QTest::newRow("two terms") << "A desc,,B  ASC"
-                               << R"(order {"A":-1,"B":1})";
-    QTest::newRow("a word that is not desc") << "A down"
-                                             << R"(order {"A":1})";
-    QTest::newRow("terms of one and three parts do not count") << "A,B DESC x"
-                                                               << "order {}";
-    QTest::newRow("empty") << ""
-                           << " null";
+    testRow("two terms", "A desc,,B  ASC", R"(order {"A":-1,"B":1})");
+    testRow("a word that is not desc", "A down", R"(order {"A":1})");
+    testRow("terms of one and three parts do not count", "A,B DESC x", "order {}");
+    testRow("empty", "", " null");
 }
 
 void TestTables::orderBecomesAnObjectOfSigns()

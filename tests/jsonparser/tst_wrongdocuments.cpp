@@ -170,7 +170,7 @@ void TestWrongDocuments::eachFileReadsAsExpected_data()
     const QStringList files = QDir(Data.filePath("wrong")).entryList({"*.json"}, QDir::Files);
     QCOMPARE(files.size(), lines.size());
     for (const QString &file : files)
-        QTest::newRow(qPrintable(file)) << expected.value(file);
+        testRow(qPrintable(file), expected.value(file));
 }
 
 void TestWrongDocuments::eachFileReadsAsExpected()
@@ -221,12 +221,12 @@ void TestWrongDocuments::hugeTextsAndDeepNestingEnd_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("expression");
     constexpr int TenMegabytes = 10 * 1024 * 1024;
-    QTest::newRow("10 MB caption") << QString(TenMegabytes, 'x') << "1+1";
-    QTest::newRow("10 MB of open braces") << QString(TenMegabytes, '{') << "1+1";
-    QTest::newRow("10 MB in braces") << '{' + QString(TenMegabytes, '[') + '}' << "1+1";
-    QTest::newRow("a million pairs of braces") << QString("{}").repeated(1000000) << "1+1";
-    QTest::newRow("10 MB formula") << "c" << QString("SUM[").repeated(TenMegabytes / 4);
-    QTest::newRow("10 MB aggregate") << "c" << QString("SUM[").repeated(TenMegabytes / 4) + ']';
+    testRow("10 MB caption", QString(TenMegabytes, 'x'), "1+1");
+    testRow("10 MB of open braces", QString(TenMegabytes, '{'), "1+1");
+    testRow("10 MB in braces", '{' + QString(TenMegabytes, '[') + '}', "1+1");
+    testRow("a million pairs of braces", QString("{}").repeated(1000000), "1+1");
+    testRow("10 MB formula", "c", QString("SUM[").repeated(TenMegabytes / 4));
+    testRow("10 MB aggregate", "c", QString("SUM[").repeated(TenMegabytes / 4) + ']');
 }
 
 void TestWrongDocuments::hugeTextsAndDeepNestingEnd()

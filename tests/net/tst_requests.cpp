@@ -41,7 +41,6 @@ private slots:
     void valuesAreBoundByTheirNumberAndOperator();
     void operatorsOutsideTheListAreRefused_data();
     void operatorsOutsideTheListAreRefused();
-    void contentsCompareByAllFields();
     void propertiesAreReadByExactName();
     void envelopeNeedsItsFourKeys_data();
     void envelopeNeedsItsFourKeys();
@@ -70,24 +69,22 @@ void TestRequests::bodiesAreSortedCompactJson_data()
     TFUc::setBaseUrl(QUrl("http://127.0.0.1:81/x"));
     TFUc::setUserId("u");
     TFUc::setProductId("p");
-    QTest::newRow("navigation") << TFUc::navigationRequest(9007199254740991) << "/x/bas/ds/data"
-                                << R"json({"P_NODE_CODE":9007199254740991,%1,"objId":38})json";
+    testRow("navigation", TFUc::navigationRequest(9007199254740991), "/x/bas/ds/data",
+            R"json({"P_NODE_CODE":9007199254740991,%1,"objId":38})json");
     const QString blocks = R"json("filter":"(SECU_TYP_CODE == :SECU_TYP_CODE)",)json"
                            R"json("filterParams":{"SECU_TYP_CODE":10},"objId":43)json";
-    QTest::newRow("blocks") << TFUc::blockRowsRequest(10) << "/x/bas/ds/data"
-                            << "{%1," + blocks + "}";
-    QTest::newRow("constants") << TFUc::constantsRequest() << "/x/bas/ds/data"
-                               << R"json({%1,"objId":390})json";
-    QTest::newRow("configuration") << TFUc::viewConfigRequest(260, {}, {}) << "/x/bas/subject/data"
-                                   << R"json({%1,"flag":0,"obj_vw_id":260})json";
-    QTest::newRow("rows of a page") << TFUc::viewDataRequest(260, params, filters, {false, 3, 50})
-                                    << "/x/bas/subject/data"
-                                    << R"json({"EMPTY":"","P":1.5,%1,)json" + filter +
-                                           R"json("flag":1,"obj_vw_id":260,"page":3,"size":50})json";
-    QTest::newRow("all rows") << TFUc::viewDataRequest(260, {}, {}, {true, 3, 50}) << "/x/bas/subject/data"
-                              << R"json({%1,"flag":1,"obj_vw_id":260})json";
-    QTest::newRow("whole set") << TFUc::wholeDataRequest(-1, {}, filters) << "/x/bas/subject/data"
-                               << R"json({%1,)json" + filter + R"json("flag":2,"obj_vw_id":-1})json";
+    testRow("blocks", TFUc::blockRowsRequest(10), "/x/bas/ds/data", "{%1," + blocks + "}");
+    testRow("constants", TFUc::constantsRequest(), "/x/bas/ds/data", R"json({%1,"objId":390})json");
+    testRow("configuration", TFUc::viewConfigRequest(260, {}, {}), "/x/bas/subject/data",
+            R"json({%1,"flag":0,"obj_vw_id":260})json");
+    testRow("rows of a page", TFUc::viewDataRequest(260, params, filters, {false, 3, 50}),
+            "/x/bas/subject/data",
+            R"json({"EMPTY":"","P":1.5,%1,)json" + filter +
+                R"json("flag":1,"obj_vw_id":260,"page":3,"size":50})json");
+    testRow("all rows", TFUc::viewDataRequest(260, {}, {}, {true, 3, 50}), "/x/bas/subject/data",
+            R"json({%1,"flag":1,"obj_vw_id":260})json");
+    testRow("whole set", TFUc::wholeDataRequest(-1, {}, filters), "/x/bas/subject/data",
+            R"json({%1,)json" + filter + R"json("flag":2,"obj_vw_id":-1})json");
 }
 
 void TestRequests::bodiesAreSortedCompactJson()
@@ -112,12 +109,9 @@ void TestRequests::addressIsJoinedAsText_data()
 {
     QTest::addColumn<QString>("base");
     QTest::addColumn<QString>("url");
-    QTest::newRow("host and port") << "http://h:8080"
-                                   << "http://h:8080/bas/ds/data";
-    QTest::newRow("path with a slash") << "http://h/api/"
-                                       << "http://h/api//bas/ds/data";
-    QTest::newRow("empty: the toolkit decides") << ""
-                                                << "file:///bas/ds/data";
+    testRow("host and port", "http://h:8080", "http://h:8080/bas/ds/data");
+    testRow("path with a slash", "http://h/api/", "http://h/api//bas/ds/data");
+    testRow("empty: the toolkit decides", "", "file:///bas/ds/data");
 }
 
 void TestRequests::addressIsJoinedAsText()
@@ -145,11 +139,11 @@ void TestRequests::valuesAreBoundByTheirNumberAndOperator_data()
     QTest::addColumn<QString>("op");
     QTest::addColumn<QList<QVariant>>("values");
     QTest::addColumn<QString>("bound");
-    QTest::newRow("one value") << ">" << QList<QVariant>{1} << "1";
-    QTest::newRow("two values") << ">" << QList<QVariant>{1, "b"} << R"([1,"b"])";
-    QTest::newRow("in with one value is a list") << "in" << QList<QVariant>{1} << "[1]";
-    QTest::newRow("nin with one value is none") << "nin" << QList<QVariant>{1} << "1";
-    QTest::newRow("a list as the one value") << "==" << QList<QVariant>{QVariantList{1, 2}} << "[1,2]";
+    testRow("one value", ">", QList<QVariant>{1}, "1");
+    testRow("two values", ">", QList<QVariant>{1, "b"}, R"([1,"b"])");
+    testRow("in with one value is a list", "in", QList<QVariant>{1}, "[1]");
+    testRow("nin with one value is none", "nin", QList<QVariant>{1}, "1");
+    testRow("a list as the one value", "==", QList<QVariant>{QVariantList{1, 2}}, "[1,2]");
 }
 
 void TestRequests::valuesAreBoundByTheirNumberAndOperator()
@@ -167,7 +161,7 @@ void TestRequests::operatorsOutsideTheListAreRefused_data()
 {
     QTest::addColumn<QString>("op");
     for (const char *op : {"=", "||", "LIKE", "", "between"})
-        QTest::newRow(op) << op;
+        testRow(op, op);
 }
 
 void TestRequests::operatorsOutsideTheListAreRefused()
@@ -177,21 +171,6 @@ void TestRequests::operatorsOutsideTheListAreRefused()
     expectWarning("did not contain the operator \"" + QRegularExpression::escape(op) + "\"");
     QVERIFY(!body.insertFilter("F", op, {1}));
     QVERIFY(body.object.isEmpty());
-}
-
-void TestRequests::contentsCompareByAllFields()
-{
-    const auto content = TFUc::constantsRequest();
-    auto other = content;
-    QVERIFY(other == content);
-    other.headers.append(qMakePair(QByteArray("a"), QByteArray("b")));
-    QVERIFY(other != content);
-    other = content;
-    other.body += ' ';
-    QVERIFY(other != content);
-    other = content;
-    other.url.setPort(82);
-    QVERIFY(other != content);
 }
 
 void TestRequests::propertiesAreReadByExactName()
@@ -225,15 +204,13 @@ void TestRequests::envelopeNeedsItsFourKeys_data()
     QTest::addColumn<QString>("json");
     QTest::addColumn<bool>("ok");
     QTest::addColumn<QString>("said");
-    QTest::newRow("all") << R"({"state":1,"msg":"x","extend":null,"data":[]})" << true << "";
-    QTest::newRow("null everywhere") << R"({"state":null,"msg":null,"extend":null,"data":null})" << true
-                                     << "";
-    QTest::newRow("an error of the service is an envelope")
-        << R"({"state":-5,"msg":"no","extend":{},"data":{}})" << true << "";
-    QTest::newRow("none") << "{}" << false << "can't found the key: \"state\"";
-    QTest::newRow("no data") << R"({"state":1,"msg":"x","extend":null})" << false
-                             << "can't found the key: \"data\"";
-    QTest::newRow("a list") << "[1,2]" << false << "can't found the key: \"state\"";
+    testRow("all", R"({"state":1,"msg":"x","extend":null,"data":[]})", true, "");
+    testRow("null everywhere", R"({"state":null,"msg":null,"extend":null,"data":null})", true, "");
+    testRow("an error of the service is an envelope", R"({"state":-5,"msg":"no","extend":{},"data":{}})",
+            true, "");
+    testRow("none", "{}", false, "can't found the key: \"state\"");
+    testRow("no data", R"({"state":1,"msg":"x","extend":null})", false, "can't found the key: \"data\"");
+    testRow("a list", "[1,2]", false, "can't found the key: \"state\"");
 }
 
 void TestRequests::envelopeNeedsItsFourKeys()

@@ -129,11 +129,11 @@ void TestTransport::failuresGiveTheErrorText_data()
 {
     QTest::addColumn<QByteArray>("reply");
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("HTTP 500") << httpReply("500 Oh", "the body") << QByteArray("server replied: Oh");
-    QTest::newRow("HTTP 401") << httpReply("401 No", "{}") << QByteArray("Host requires authentication");
-    QTest::newRow("closed connection") << QByteArray() << QByteArray("Connection closed");
-    QTest::newRow("body cut off") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"state\"")
-                                  << QByteArray("Connection closed");
+    testRow("HTTP 500", httpReply("500 Oh", "the body"), QByteArray("server replied: Oh"));
+    testRow("HTTP 401", httpReply("401 No", "{}"), QByteArray("Host requires authentication"));
+    testRow("closed connection", QByteArray(), QByteArray("Connection closed"));
+    testRow("body cut off", QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"state\""),
+            QByteArray("Connection closed"));
 }
 
 void TestTransport::failuresGiveTheErrorText()

@@ -67,22 +67,14 @@ void ChildFiltersTest::linkTextNamesTheSourceOfAField_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("links");
-    QTest::newRow("qualified") << "T.CODE=数据源.SECU"
-                               << "SECU<-CODE!";
-    QTest::newRow("plain") << "CODE=SECU"
-                           << "SECU<-CODE";
-    QTest::newRow("several") << "CODE=X.S;;DAY=X.D"
-                             << "S<-CODE D<-DAY";
-    QTest::newRow("a field with a dot stays whole") << "A.B=X.F"
-                                                    << "F<-A.B";
-    QTest::newRow("no such field is cut") << "A.C=X.F"
-                                          << "F<-C";
-    QTest::newRow("three sides") << "A=B=C"
-                                 << "";
-    QTest::newRow("nothing behind the dot") << "CODE=X."
-                                            << "";
-    QTest::newRow("empty") << ""
-                           << "";
+    testRow("qualified", "T.CODE=数据源.SECU", "SECU<-CODE!");
+    testRow("plain", "CODE=SECU", "SECU<-CODE");
+    testRow("several", "CODE=X.S;;DAY=X.D", "S<-CODE D<-DAY");
+    testRow("a field with a dot stays whole", "A.B=X.F", "F<-A.B");
+    testRow("no such field is cut", "A.C=X.F", "F<-C");
+    testRow("three sides", "A=B=C", "");
+    testRow("nothing behind the dot", "CODE=X.", "");
+    testRow("empty", "", "");
 }
 
 void ChildFiltersTest::linkTextNamesTheSourceOfAField()
@@ -108,60 +100,15 @@ void ChildFiltersTest::fieldsTakeRowBarOrDefault_data()
     QTest::addColumn<QString>("category");
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("result");
-    QTest::newRow("linked, as a filter") << "SECU"
-                                         << ""
-                                         << "="
-                                         << ""
-                                         << "X"
-                                         << "(SECU == :SECU)600000";
-    QTest::newRow("operator") << "SECU"
-                              << "String"
-                              << "LIKE"
-                              << "2"
-                              << "X"
-                              << "(SECU like :SECU)600000";
-    QTest::newRow("linked, as a parameter") << "SECU"
-                                            << ""
-                                            << "="
-                                            << "1"
-                                            << "X"
-                                            << "SECU=600000";
-    QTest::newRow("a label never is a parameter") << "SECU"
-                                                  << ""
-                                                  << "="
-                                                  << "1"
-                                                  << "LabelControl"
-                                                  << "(SECU == :SECU)600000";
-    QTest::newRow("no link takes the default") << "OTHER"
-                                               << ""
-                                               << "<>"
-                                               << ""
-                                               << "X"
-                                               << "(OTHER != :OTHER)dft";
-    QTest::newRow("null in the row takes the bar") << "E"
-                                                   << ""
-                                                   << "="
-                                                   << ""
-                                                   << "X"
-                                                   << "(E == :E)bar";
-    QTest::newRow("milliseconds as a date parameter") << "D"
-                                                      << "DateTime"
-                                                      << "="
-                                                      << "1"
-                                                      << "X"
-                                                      << "D=[2020-01-01]";
-    QTest::newRow("type of the cell where none is given") << "D"
-                                                          << ""
-                                                          << "="
-                                                          << "1"
-                                                          << "X"
-                                                          << "D=[2020-01-01]";
-    QTest::newRow("without a field") << ""
-                                     << ""
-                                     << "="
-                                     << ""
-                                     << "X"
-                                     << "";
+    testRow("linked, as a filter", "SECU", "", "=", "", "X", "(SECU == :SECU)600000");
+    testRow("operator", "SECU", "String", "LIKE", "2", "X", "(SECU like :SECU)600000");
+    testRow("linked, as a parameter", "SECU", "", "=", "1", "X", "SECU=600000");
+    testRow("a label never is a parameter", "SECU", "", "=", "1", "LabelControl", "(SECU == :SECU)600000");
+    testRow("no link takes the default", "OTHER", "", "<>", "", "X", "(OTHER != :OTHER)dft");
+    testRow("null in the row takes the bar", "E", "", "=", "", "X", "(E == :E)bar");
+    testRow("milliseconds as a date parameter", "D", "DateTime", "=", "1", "X", "D=[2020-01-01]");
+    testRow("type of the cell where none is given", "D", "", "=", "1", "X", "D=[2020-01-01]");
+    testRow("without a field", "", "", "=", "", "X", "");
 }
 
 void ChildFiltersTest::fieldsTakeRowBarOrDefault()
@@ -231,16 +178,11 @@ void ChildFiltersTest::placeholdersInAQueryAreFilled_data()
 {
     QTest::addColumn<QString>("link");
     QTest::addColumn<QString>("filled");
-    QTest::newRow("one") << "view://p?objvwid=26&code=${CODE}"
-                         << "view://p?objvwid=26&code=600000";
-    QTest::newRow("twice and one more") << "view://p?a=${CODE}&b=${CODE}${A.B}"
-                                        << "view://p?a=600000&b=6000007";
-    QTest::newRow("no such field") << "view://p?a=${GONE}&b=1"
-                                   << "view://p?a=&b=1";
-    QTest::newRow("without a query") << "http://h/${CODE}"
-                                     << "http://h/$%7BCODE%7D";
-    QTest::newRow("signs of a query in a value") << "view://p?n=${NAME}&b=1"
-                                                 << "view://p?n=A%26B 5%25&b=1";
+    testRow("one", "view://p?objvwid=26&code=${CODE}", "view://p?objvwid=26&code=600000");
+    testRow("twice and one more", "view://p?a=${CODE}&b=${CODE}${A.B}", "view://p?a=600000&b=6000007");
+    testRow("no such field", "view://p?a=${GONE}&b=1", "view://p?a=&b=1");
+    testRow("without a query", "http://h/${CODE}", "http://h/$%7BCODE%7D");
+    testRow("signs of a query in a value", "view://p?n=${NAME}&b=1", "view://p?n=A%26B 5%25&b=1");
 }
 
 void ChildFiltersTest::placeholdersInAQueryAreFilled()

@@ -25,8 +25,7 @@ private slots:
     void escapeClosesTheBox();
     void boxOpensAtTheCursorOrAwayFromTheCorner_data();
     void boxOpensAtTheCursorOrAwayFromTheCorner();
-    void mainWindowIsRefusedAsContent();
-    void objectWithoutWindowIsRefusedAsContent();
+    void onlyPlainWidgetsAreTakenAsContent();
     void missingChildIsLoggedWithItsType();
     void shadowFollowsSizeAndWindowState();
 
@@ -90,12 +89,12 @@ void MessageBoxTest::boxOpensAtTheCursorOrAwayFromTheCorner_data()
 
     const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
     const int right = screen.width() - 10, bottom = screen.height() - 10;
-    QTest::newRow("room everywhere") << QPoint(40, 50) << QPoint(40, 50);
-    QTest::newRow("right edge") << QPoint(right, 50) << QPoint(right - 300, 50);
-    QTest::newRow("bottom edge") << QPoint(40, bottom) << QPoint(40, bottom - 200);
-    QTest::newRow("corner") << QPoint(right, bottom) << QPoint(right - 300, bottom - 200);
-    QTest::newRow("just room") << QPoint(screen.width() - 300, screen.height() - 200)
-                               << QPoint(screen.width() - 300, screen.height() - 200);
+    testRow("room everywhere", QPoint(40, 50), QPoint(40, 50));
+    testRow("right edge", QPoint(right, 50), QPoint(right - 300, 50));
+    testRow("bottom edge", QPoint(40, bottom), QPoint(40, bottom - 200));
+    testRow("corner", QPoint(right, bottom), QPoint(right - 300, bottom - 200));
+    testRow("just room", QPoint(screen.width() - 300, screen.height() - 200),
+            QPoint(screen.width() - 300, screen.height() - 200));
 }
 
 void MessageBoxTest::boxOpensAtTheCursorOrAwayFromTheCorner()
@@ -110,27 +109,19 @@ void MessageBoxTest::boxOpensAtTheCursorOrAwayFromTheCorner()
     QCOMPARE(position, expected);
 }
 
-void MessageBoxTest::mainWindowIsRefusedAsContent()
+void MessageBoxTest::onlyPlainWidgetsAreTakenAsContent()
 {
     expectWarning("^can not init with QMainWidget$");
-    TFAdWidget<QDialog> dialog;
-    QMainWindow window;
-
-    dialog.initContentWithWidget(&window);
-
-    QVERIFY(!dialog.layout());
-    QVERIFY(!window.parent());
-}
-
-void MessageBoxTest::objectWithoutWindowIsRefusedAsContent()
-{
     expectWarning("^the widget is not widget type!$");
     TFAdWidget<QDialog> dialog;
+    QMainWindow window;
     QObject object;
 
+    dialog.initContentWithWidget(&window);
     dialog.initContentWithWidget(&object);
 
     QVERIFY(!dialog.layout());
+    QVERIFY(!window.parent());
 }
 
 void MessageBoxTest::missingChildIsLoggedWithItsType()

@@ -228,8 +228,8 @@ void RightContainerTest::childThatFailsKeepsItsState_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("state");
-    QTest::newRow("network") << 500 << "加载中";
-    QTest::newRow("envelope") << 200 << "无数据!";
+    testRow("network", 500, "加载中");
+    testRow("envelope", 200, "无数据!");
 }
 
 void RightContainerTest::childThatFailsKeepsItsState()
@@ -294,9 +294,9 @@ void RightContainerTest::failedPageLeavesTheStackEmpty_data()
 {
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("not found") << QByteArray() << "";
-    QTest::newRow("no envelope") << QByteArray("{}") << "";
-    QTest::newRow("no JSON") << QByteArray("<html>") << "respone is not json obj:";
+    testRow("not found", QByteArray(), "");
+    testRow("no envelope", QByteArray("{}"), "");
+    testRow("no JSON", QByteArray("<html>"), "respone is not json obj:");
 }
 
 void RightContainerTest::failedPageLeavesTheStackEmpty()
@@ -390,9 +390,9 @@ void RightContainerTest::kindOfAViewIsThatOfItsConfiguration_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<int>("kind");
-    QTest::newRow("chart") << "ViewDataChart" << 1;
-    QTest::newRow("compared with case") << "viewdatachart" << 0;
-    QTest::newRow("none") << "" << 0;
+    testRow("chart", "ViewDataChart", 1);
+    testRow("compared with case", "viewdatachart", 0);
+    testRow("none", "", 0);
 }
 
 void RightContainerTest::kindOfAViewIsThatOfItsConfiguration()

@@ -141,7 +141,7 @@ void TableModelTest::valuesShowByTypeAndFormat_data()
     QTest::addColumn<QVariant>("shown");
     const auto add = [](const char *name, const char *type, const char *format, const QVariant &value,
                         const QVariant &shown) {
-        QTest::newRow(name) << QString(type) << QString(format) << value << shown;
+        testRow(name, QString(type), QString(format), value, shown);
     };
     add("groups and two decimals", "Decimal", "", 1234567.891, "1,234,567.89");
     add("precision in capitals", "decimal", "N4", 1.5, "1.5000");
@@ -177,11 +177,11 @@ void TableModelTest::unitColumnsFollowTheChosenUnit_data()
 {
     QTest::addColumn<int>("unitCode");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("as configured") << 0 << "万元 123.46";
-    QTest::newRow("another unit of the category") << 1008 << "亿元 0.01";
-    QTest::newRow("factor 1") << 1000 << "元 1,234,560.00";
-    QTest::newRow("other category leaves the number raw") << 2008 << "万元 1,234,560.00";
-    QTest::newRow("exponent below zero is factor 0") << 7005 << "万元 1,234,560.00";
+    testRow("as configured", 0, "万元 123.46");
+    testRow("another unit of the category", 1008, "亿元 0.01");
+    testRow("factor 1", 1000, "元 1,234,560.00");
+    testRow("other category leaves the number raw", 2008, "万元 1,234,560.00");
+    testRow("exponent below zero is factor 0", 7005, "万元 1,234,560.00");
 }
 
 void TableModelTest::unitColumnsFollowTheChosenUnit()
@@ -206,13 +206,13 @@ void TableModelTest::alignmentIsThatOfTheCellOrItsType_data()
     QTest::addColumn<int>("alignment");
     QTest::addColumn<QString>("type");
     QTest::addColumn<int>("expected");
-    QTest::newRow("number") << 0 << "UInt64" << 130;
-    QTest::newRow("compared with case") << 0 << "decimal" << 132;
-    QTest::newRow("text") << 0 << "String" << 129;
-    QTest::newRow("date") << 0 << "DateTime" << 132;
-    QTest::newRow("left") << 1 << "Decimal" << 129;
-    QTest::newRow("centre") << 2 << "Decimal" << 132;
-    QTest::newRow("right") << 3 << "String" << 130;
+    testRow("number", 0, "UInt64", 130);
+    testRow("compared with case", 0, "decimal", 132);
+    testRow("text", 0, "String", 129);
+    testRow("date", 0, "DateTime", 132);
+    testRow("left", 1, "Decimal", 129);
+    testRow("centre", 2, "Decimal", 132);
+    testRow("right", 3, "String", 130);
 }
 
 void TableModelTest::alignmentIsThatOfTheCellOrItsType()
@@ -231,28 +231,17 @@ void TableModelTest::expressionColoursTheText_data()
 {
     QTest::addColumn<QString>("expression");
     QTest::addColumn<QString>("colour");
-    QTest::newRow("comparison") << "$A > 0 ? 'red' : 'green'"
-                                << "#ff0000";
-    QTest::newRow("cells are texts") << "$A + 1 == '51' ? '#123456' : ''"
-                                     << "#123456";
-    QTest::newRow("function") << "function() { if ($B == 'x') return 'blue'; }"
-                              << "#0000ff";
-    QTest::newRow("name put together at run time") << "this['$' + 'B'] == 'x' ? 'red' : ''"
-                                                   << "#ff0000";
-    QTest::newRow("skin") << "$skin == 'white' ? 'black' : 'white'"
-                          << "#000000";
-    QTest::newRow("default colour") << "'$use_default_color'"
-                                    << "";
-    QTest::newRow("no text") << "17"
-                             << "";
-    QTest::newRow("nothing") << "undefined"
-                             << "";
-    QTest::newRow("unknown name") << "$GONE"
-                                  << "";
-    QTest::newRow("syntax") << "(("
-                            << "";
-    QTest::newRow("error thrown") << "(function() { throw new Error('x') })()"
-                                  << "";
+    testRow("comparison", "$A > 0 ? 'red' : 'green'", "#ff0000");
+    testRow("cells are texts", "$A + 1 == '51' ? '#123456' : ''", "#123456");
+    testRow("function", "function() { if ($B == 'x') return 'blue'; }", "#0000ff");
+    testRow("name put together at run time", "this['$' + 'B'] == 'x' ? 'red' : ''", "#ff0000");
+    testRow("skin", "$skin == 'white' ? 'black' : 'white'", "#000000");
+    testRow("default colour", "'$use_default_color'", "");
+    testRow("no text", "17", "");
+    testRow("nothing", "undefined", "");
+    testRow("unknown name", "$GONE", "");
+    testRow("syntax", "((", "");
+    testRow("error thrown", "(function() { throw new Error('x') })()", "");
 }
 
 void TableModelTest::expressionColoursTheText()

@@ -182,15 +182,15 @@ void TableWidgetTest::replyWithoutRowsShowsNoData_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("failed") << 500 << QByteArray("oops") << "";
-    QTest::newRow("no JSON") << 200 << QByteArray("<html>") << "respone is not json obj:";
-    QTest::newRow("cut off") << 200 << QByteArray(R"({"state":1,"msg":"","extend":null,"data":{"Da)")
-                             << "respone is not json obj:";
-    QTest::newRow("no envelope") << 200 << QByteArray("{}") << "";
-    QTest::newRow("an array") << 200 << QByteArray("[1]") << "";
-    QTest::newRow("data null") << 200 << PageService::envelope(QJsonValue()) << "";
-    QTest::newRow("data a number") << 200 << PageService::envelope(3) << "";
-    QTest::newRow("data empty") << 200 << PageService::envelope(QJsonObject()) << "";
+    testRow("failed", 500, QByteArray("oops"), "");
+    testRow("no JSON", 200, QByteArray("<html>"), "respone is not json obj:");
+    testRow("cut off", 200, QByteArray(R"({"state":1,"msg":"","extend":null,"data":{"Da)"),
+            "respone is not json obj:");
+    testRow("no envelope", 200, QByteArray("{}"), "");
+    testRow("an array", 200, QByteArray("[1]"), "");
+    testRow("data null", 200, PageService::envelope(QJsonValue()), "");
+    testRow("data a number", 200, PageService::envelope(3), "");
+    testRow("data empty", 200, PageService::envelope(QJsonObject()), "");
 }
 
 void TableWidgetTest::replyWithoutRowsShowsNoData()

@@ -184,12 +184,9 @@ void ExportTest::pageTitleNamesTheFile_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("name");
-    QTest::newRow("no title") << ""
-                              << "新建工作簿.xlsx";
-    QTest::newRow("colons") << ":a:b"
-                            << "_a_b.xlsx";
-    QTest::newRow("separators of folders") << "进/出口\\x"
-                                           << "进_出口_x.xlsx";
+    testRow("no title", "", "新建工作簿.xlsx");
+    testRow("colons", ":a:b", "_a_b.xlsx");
+    testRow("separators of folders", "进/出口\\x", "进_出口_x.xlsx");
 }
 
 void ExportTest::pageTitleNamesTheFile()
@@ -204,11 +201,10 @@ void ExportTest::nothingIsWrittenWithoutRowsOrName_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("failed") << 500 << QByteArray() << "";
-    QTest::newRow("no JSON") << 200 << QByteArray("<html>") << "^parse data failed$";
-    QTest::newRow("refused") << 200 << QByteArray(R"({"state":0,"msg":"no","data":null})")
-                             << "^parse data failed$";
-    QTest::newRow("no name chosen") << 200 << QByteArray(R"({"state":1,"msg":"","data":{"Data":[]}})") << "";
+    testRow("failed", 500, QByteArray(), "");
+    testRow("no JSON", 200, QByteArray("<html>"), "^parse data failed$");
+    testRow("refused", 200, QByteArray(R"({"state":0,"msg":"no","data":null})"), "^parse data failed$");
+    testRow("no name chosen", 200, QByteArray(R"({"state":1,"msg":"","data":{"Data":[]}})"), "");
 }
 
 void ExportTest::nothingIsWrittenWithoutRowsOrName()
@@ -250,17 +246,10 @@ void ExportTest::failureIsTold_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("cancelled") << QString() << "u8用户已取消"
-                               << "";
-    QTest::newRow("held by somebody") << "held.xlsx"
-                                      << "文件处于占用状态"
-                                      << "";
-    QTest::newRow("held, without a suffix") << "held"
-                                            << "文件处于占用状态"
-                                            << "";
-    QTest::newRow("no such folder") << "none/a.xlsx"
-                                    << "u8写入内容失败"
-                                    << "^export failed: .*none/a.xlsx";
+    testRow("cancelled", QString(), "u8用户已取消", "");
+    testRow("held by somebody", "held.xlsx", "文件处于占用状态", "");
+    testRow("held, without a suffix", "held", "文件处于占用状态", "");
+    testRow("no such folder", "none/a.xlsx", "u8写入内容失败", "^export failed: .*none/a.xlsx");
 }
 
 void ExportTest::failureIsTold()
@@ -286,13 +275,13 @@ void ExportTest::nameIsMadeUnique_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QStringList>("held");
     QTest::addColumn<QString>("unique");
-    QTest::newRow("free") << "a.xlsx" << QStringList{} << "a.xlsx";
-    QTest::newRow("held") << "a.xlsx" << QStringList{"a.xlsx"} << "a(1)xlsx";
-    QTest::newRow("held twice") << "a.xlsx" << QStringList{"a.xlsx", "a(1)xlsx"} << "a(1)";
-    QTest::newRow("with a number") << "a(1).xlsx" << QStringList{"a(1).xlsx"} << "a(1)(1)xlsx";
-    QTest::newRow("number within") << "a(1)b.xlsx" << QStringList{"a(1)b.xlsx"} << "a(1)xlsx";
-    QTest::newRow("a number alone") << "7.xlsx" << QStringList{"7.xlsx"} << "7(8)xlsx";
-    QTest::newRow("two suffixes") << "a.b.xlsx" << QStringList{"a.b.xlsx"} << "a(1)b.xlsx";
+    testRow("free", "a.xlsx", QStringList{}, "a.xlsx");
+    testRow("held", "a.xlsx", QStringList{"a.xlsx"}, "a(1)xlsx");
+    testRow("held twice", "a.xlsx", QStringList{"a.xlsx", "a(1)xlsx"}, "a(1)");
+    testRow("with a number", "a(1).xlsx", QStringList{"a(1).xlsx"}, "a(1)(1)xlsx");
+    testRow("number within", "a(1)b.xlsx", QStringList{"a(1)b.xlsx"}, "a(1)xlsx");
+    testRow("a number alone", "7.xlsx", QStringList{"7.xlsx"}, "7(8)xlsx");
+    testRow("two suffixes", "a.b.xlsx", QStringList{"a.b.xlsx"}, "a(1)b.xlsx");
 }
 
 void ExportTest::nameIsMadeUnique()

@@ -77,22 +77,23 @@ void ExportWriterTest::headerStandsAsOnTheScreen_data()
     QTest::addColumn<Header>("header");
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<QString>("merges");
-    QTest::newRow("flat") << header({node("a"), node("b"), node("c")})
-                          << QStringList{"A1 'a'* | B1 'b'* | C1 'c'*", "A2 0 i"} << "";
-    QTest::newRow("band over two") << header({node("B", {node("a"), node("b")})})
-                                   << QStringList{"A1 'B'*", "A2 'a'* | B2 'b'*", "A3 0 i"} << "A1:B1";
-    QTest::newRow("low column under tall neighbours")
-        << header({node("x"), node("B", {node("C", {node("a"), node("b")}), node("d")}), node("y")})
-        << QStringList{"B1 'B'*", "B2 'C'*", "A3 'x'* | B3 'a'* | C3 'b'* | D3 'd'* | E3 'y'*", "A4 0 i"}
-        << "B1:D1 B2:C2";
-    QTest::newRow("band over one") << header({node("B", {node("a")}), node("b")})
-                                   << QStringList{"A1 'B'*", "A2 'a'* | B2 'b'*", "A3 0 i"} << "";
-    QTest::newRow("hidden nodes keep their room")
-        << header({node("B", {hidden("a"), node("b")}), node("C", {node("c"), node("d")}, false), node("e")})
-        << QStringList{"A1 'B'*", "B2 'b'* | E2 'e'*"} << "A1:B1";
-    QTest::newRow("caption that no sheet can hold") << header({node(QString("a\x01z")), node("=1+1")})
-                                                    << QStringList{"A1 'az'* | B1 '=1+1'*", "A2 0 i"} << "";
-    QTest::newRow("nothing") << header({}) << QStringList{"A1 0 i"} << "";
+    testRow("flat", header({node("a"), node("b"), node("c")}),
+            QStringList{"A1 'a'* | B1 'b'* | C1 'c'*", "A2 0 i"}, "");
+    testRow("band over two", header({node("B", {node("a"), node("b")})}),
+            QStringList{"A1 'B'*", "A2 'a'* | B2 'b'*", "A3 0 i"}, "A1:B1");
+    testRow("low column under tall neighbours",
+            header({node("x"), node("B", {node("C", {node("a"), node("b")}), node("d")}), node("y")}),
+            QStringList{"B1 'B'*", "B2 'C'*", "A3 'x'* | B3 'a'* | C3 'b'* | D3 'd'* | E3 'y'*", "A4 0 i"},
+            "B1:D1 B2:C2");
+    testRow("band over one", header({node("B", {node("a")}), node("b")}),
+            QStringList{"A1 'B'*", "A2 'a'* | B2 'b'*", "A3 0 i"}, "");
+    testRow(
+        "hidden nodes keep their room",
+        header({node("B", {hidden("a"), node("b")}), node("C", {node("c"), node("d")}, false), node("e")}),
+        QStringList{"A1 'B'*", "B2 'b'* | E2 'e'*"}, "A1:B1");
+    testRow("caption that no sheet can hold", header({node(QString("a\x01z")), node("=1+1")}),
+            QStringList{"A1 'az'* | B1 '=1+1'*", "A2 0 i"}, "");
+    testRow("nothing", header({}), QStringList{"A1 0 i"}, "");
 }
 
 void ExportWriterTest::headerStandsAsOnTheScreen()
@@ -152,26 +153,16 @@ void ExportWriterTest::textIsCleanedAndStaysText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("written");
-    QTest::newRow("line break") << "a\r\nb\r\n"
-                                << "ab";
-    QTest::newRow("two returns") << "a\r\rb"
-                                 << "ab";
-    QTest::newRow("break between returns") << "a\r\r\n\rb"
-                                           << "ab";
-    QTest::newRow("escape mark") << "\\u4e2d \\U"
-                                 << "4e2d \\U";
-    QTest::newRow("lone newline stays") << "a\nb"
-                                        << "a\nb";
-    QTest::newRow("looks like a formula") << "=1+1"
-                                          << "=1+1";
-    QTest::newRow("looks like a number") << "000001"
-                                         << "000001";
-    QTest::newRow("mark-up") << "<a> & \"b\""
-                             << "<a> & \"b\"";
-    QTest::newRow("no character of XML") << QString("a\x02") + QChar(0xffff) + "b"
-                                         << "ab";
-    QTest::newRow("beyond the first plane") << "𠮷"
-                                            << "𠮷";
+    testRow("line break", "a\r\nb\r\n", "ab");
+    testRow("two returns", "a\r\rb", "ab");
+    testRow("break between returns", "a\r\r\n\rb", "ab");
+    testRow("escape mark", "\\u4e2d \\U", "4e2d \\U");
+    testRow("lone newline stays", "a\nb", "a\nb");
+    testRow("looks like a formula", "=1+1", "=1+1");
+    testRow("looks like a number", "000001", "000001");
+    testRow("mark-up", "<a> & \"b\"", "<a> & \"b\"");
+    testRow("no character of XML", QString("a\x02") + QChar(0xffff) + "b", "ab");
+    testRow("beyond the first plane", "𠮷", "𠮷");
 }
 
 void ExportWriterTest::textIsCleanedAndStaysText()

@@ -47,20 +47,13 @@ void TestMenuCfg::viewsAreLookedUpInTheMenu_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("item");
 
-    QTest::newRow("known") << "260" << 2 << "股票专题"
-                           << "行情/Q/日线/260";
-    QTest::newRow("in two menus") << "1641" << 2 << "股票专题"
-                                  << "两处/B/后/1641";
-    QTest::newRow("leading zero gives an item and no topic") << "01641" << -1 << ""
-                                                             << "两处/B/后/1641";
-    QTest::newRow("menu replaced by a later one keeps its items") << "300" << -1 << ""
-                                                                  << "//旧项/300";
-    QTest::newRow("later menu of one code") << "301" << 61 << "新"
-                                            << "//新项/301";
-    QTest::newRow("unknown") << "999" << -1 << ""
-                             << "///0";
-    QTest::newRow("no number") << "abc" << -1 << ""
-                               << "///0";
+    testRow("known", "260", 2, "股票专题", "行情/Q/日线/260");
+    testRow("in two menus", "1641", 2, "股票专题", "两处/B/后/1641");
+    testRow("leading zero gives an item and no topic", "01641", -1, "", "两处/B/后/1641");
+    testRow("menu replaced by a later one keeps its items", "300", -1, "", "//旧项/300");
+    testRow("later menu of one code", "301", 61, "新", "//新项/301");
+    testRow("unknown", "999", -1, "", "///0");
+    testRow("no number", "abc", -1, "", "///0");
 }
 
 void TestMenuCfg::viewsAreLookedUpInTheMenu()
@@ -106,12 +99,12 @@ void TestMenuCfg::englishHostGetsEnglishNames()
 void TestMenuCfg::brokenMenuLeavesTheTablesEmpty_data()
 {
     QTest::addColumn<QByteArray>("json");
-    QTest::newRow("empty file") << QByteArray();
-    QTest::newRow("null") << QByteArray("null");
-    QTest::newRow("empty object beside the application hides the resource") << QByteArray("{}");
-    QTest::newRow("array") << QByteArray("[1]");
-    QTest::newRow("cut off") << QByteArray(twoMenus).left(200);
-    QTest::newRow("menubar is an object") << QByteArray(R"({"menubar": {}})");
+    testRow("empty file", QByteArray());
+    testRow("null", QByteArray("null"));
+    testRow("empty object beside the application hides the resource", QByteArray("{}"));
+    testRow("array", QByteArray("[1]"));
+    testRow("cut off", QByteArray(twoMenus).left(200));
+    testRow("menubar is an object", QByteArray(R"({"menubar": {}})"));
 }
 
 void TestMenuCfg::brokenMenuLeavesTheTablesEmpty()

@@ -130,38 +130,14 @@ void TestPage::urlGivesTopicCaptionAndTitle_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("title");
 
-    QTest::newRow("all given") << "view://subjectpage?pnodecode=5&title=标题"
-                               << "5"
-                               << "标题"
-                               << "标题";
-    QTest::newRow("capitals") << "VIEW://MySubjectPage.X?PNODECODE=5&TITLE=ABC"
-                              << "5"
-                              << "abc"
-                              << "abc";
-    QTest::newRow("negative code") << "view://subjectpage?pnodecode=-3&title=t"
-                                   << "-3"
-                                   << "t"
-                                   << "t";
-    QTest::newRow("code that is no number") << "view://subjectpage?pnodecode=2x&objvwid=none&title=t"
-                                            << "-1"
-                                            << "t"
-                                            << "t";
-    QTest::newRow("nothing") << "view://subjectpage"
-                             << "-1"
-                             << ""
-                             << "";
-    QTest::newRow("view alone finds its topic and no caption") << "view://subjectpage?objvwid=612"
-                                                               << "61"
-                                                               << ""
-                                                               << "";
-    QTest::newRow("topic without a title") << "view://subjectpage?pnodecode=61"
-                                           << "61"
-                                           << "宏观经济专题"
-                                           << "宏观经济专题";
-    QTest::newRow("escaped title") << "view://subjectpage?pnodecode=5&title=a%26b%25"
-                                   << "5"
-                                   << "a&b%"
-                                   << "a&b%";
+    testRow("all given", "view://subjectpage?pnodecode=5&title=标题", "5", "标题", "标题");
+    testRow("capitals", "VIEW://MySubjectPage.X?PNODECODE=5&TITLE=ABC", "5", "abc", "abc");
+    testRow("negative code", "view://subjectpage?pnodecode=-3&title=t", "-3", "t", "t");
+    testRow("code that is no number", "view://subjectpage?pnodecode=2x&objvwid=none&title=t", "-1", "t", "t");
+    testRow("nothing", "view://subjectpage", "-1", "", "");
+    testRow("view alone finds its topic and no caption", "view://subjectpage?objvwid=612", "61", "", "");
+    testRow("topic without a title", "view://subjectpage?pnodecode=61", "61", "宏观经济专题", "宏观经济专题");
+    testRow("escaped title", "view://subjectpage?pnodecode=5&title=a%26b%25", "5", "a&b%", "a&b%");
 }
 
 void TestPage::urlGivesTopicCaptionAndTitle()
@@ -197,10 +173,10 @@ void TestPage::queryItemsBecomePropertiesAndArguments()
 void TestPage::foreignUrlLeavesThePageEmpty_data()
 {
     QTest::addColumn<QUrl>("url");
-    QTest::newRow("other scheme") << QUrl("http://subjectpage?pnodecode=5");
-    QTest::newRow("other host") << QUrl("view://otherpage?pnodecode=5");
-    QTest::newRow("word in the query alone") << QUrl("view://x?title=subjectpage");
-    QTest::newRow("empty") << QUrl();
+    testRow("other scheme", QUrl("http://subjectpage?pnodecode=5"));
+    testRow("other host", QUrl("view://otherpage?pnodecode=5"));
+    testRow("word in the query alone", QUrl("view://x?title=subjectpage"));
+    testRow("empty", QUrl());
 }
 
 void TestPage::foreignUrlLeavesThePageEmpty()
@@ -287,14 +263,12 @@ void TestPage::failedNavigationLeavesTheImage_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("warning");
 
-    QTest::newRow("service fault") << 500 << false << TestService::envelope(TreeText::navigation())
-                                   << "no navigation";
-    QTest::newRow("closed connection") << 200 << true << QByteArray() << "no navigation";
-    QTest::newRow("no JSON") << 200 << false << QByteArray("<html>") << "no navigation";
-    QTest::newRow("missing key") << 200 << false << QByteArray(R"({"state": 0, "data": []})")
-                                 << "no navigation";
-    QTest::newRow("no rows") << 200 << false << TestService::envelope(QJsonArray{}) << "has no rows";
-    QTest::newRow("null") << 200 << false << TestService::envelope(QJsonValue()) << "has no rows";
+    testRow("service fault", 500, false, TestService::envelope(TreeText::navigation()), "no navigation");
+    testRow("closed connection", 200, true, QByteArray(), "no navigation");
+    testRow("no JSON", 200, false, QByteArray("<html>"), "no navigation");
+    testRow("missing key", 200, false, QByteArray(R"({"state": 0, "data": []})"), "no navigation");
+    testRow("no rows", 200, false, TestService::envelope(QJsonArray{}), "has no rows");
+    testRow("null", 200, false, TestService::envelope(QJsonValue()), "has no rows");
 }
 
 void TestPage::failedNavigationLeavesTheImage()

@@ -36,32 +36,32 @@ void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode_data()
     QTest::addColumn<QJsonArray>("rows");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("child before its parent")
-        << QJsonArray{node(11, 10, "b"), node(10, 2, "a")} << QStringList{"a", "  b"};
-    QTest::newRow("children in array order")
-        << QJsonArray{node(3, 2, "c"), node(1, 2, "a"), node(9, 2, "b")} << QStringList{"c", "a", "b"};
-    QTest::newRow("row with the root's code is dropped")
-        << QJsonArray{node(2, 0, "root"), node(2, 2, "constant"), node(10, 2, "a")} << QStringList{"a"};
-    QTest::newRow("first of two rows with one code takes the children")
-        << QJsonArray{node(10, 2, "a"), node(10, 2, "b"), node(11, 10, "c")} << QStringList{"a", "  c", "b"};
-    QTest::newRow("row that is its own parent goes to the next with its code")
-        << QJsonArray{node(10, 10, "a"), node(10, 2, "b"), node(11, 10, "c")}
-        << QStringList{"b", "  a", "    c"};
-    QTest::newRow("orphans are left out")
-        << QJsonArray{node(10, 77, "a"), node(11, 10, "b"), node(12, 2, "c")} << QStringList{"c"};
-    QTest::newRow("circle is left out") << QJsonArray{node(10, 12, "a"), node(11, 10, "b"), node(12, 11, "c"),
-                                                      node(13, 2, "d"), node(14, 14, "e")}
-                                        << QStringList{"d"};
-    QTest::newRow("row with code 0 does not swallow the root")
-        << QJsonArray{node(0, 2, "zero"), node(10, 2, "a")} << QStringList{"zero", "a"};
-    QTest::newRow("other values are passed over")
-        << QJsonArray{1, "text", QJsonValue(), QJsonArray{}, QJsonObject{}, node(10, 2, "a")}
-        << QStringList{"a"};
-    QTest::newRow("codes as text") << QJsonArray{QJsonObject{{"NODE_CODE", "12"},
-                                                             {"P_NODE_CODE", "2"},
-                                                             {"NODE_CAP", "a"}},
-                                                 node(13, 12, "b")}
-                                   << QStringList{"a", "  b"};
+    testRow("child before its parent", QJsonArray{node(11, 10, "b"), node(10, 2, "a")},
+            QStringList{"a", "  b"});
+    testRow("children in array order", QJsonArray{node(3, 2, "c"), node(1, 2, "a"), node(9, 2, "b")},
+            QStringList{"c", "a", "b"});
+    testRow("row with the root's code is dropped",
+            QJsonArray{node(2, 0, "root"), node(2, 2, "constant"), node(10, 2, "a")}, QStringList{"a"});
+    testRow("first of two rows with one code takes the children",
+            QJsonArray{node(10, 2, "a"), node(10, 2, "b"), node(11, 10, "c")}, QStringList{"a", "  c", "b"});
+    testRow("row that is its own parent goes to the next with its code",
+            QJsonArray{node(10, 10, "a"), node(10, 2, "b"), node(11, 10, "c")},
+            QStringList{"b", "  a", "    c"});
+    testRow("orphans are left out", QJsonArray{node(10, 77, "a"), node(11, 10, "b"), node(12, 2, "c")},
+            QStringList{"c"});
+    testRow("circle is left out",
+            QJsonArray{node(10, 12, "a"), node(11, 10, "b"), node(12, 11, "c"), node(13, 2, "d"),
+                       node(14, 14, "e")},
+            QStringList{"d"});
+    testRow("row with code 0 does not swallow the root", QJsonArray{node(0, 2, "zero"), node(10, 2, "a")},
+            QStringList{"zero", "a"});
+    testRow("other values are passed over",
+            QJsonArray{1, "text", QJsonValue(), QJsonArray{}, QJsonObject{}, node(10, 2, "a")},
+            QStringList{"a"});
+    testRow("codes as text",
+            QJsonArray{QJsonObject{{"NODE_CODE", "12"}, {"P_NODE_CODE", "2"}, {"NODE_CAP", "a"}},
+                       node(13, 12, "b")},
+            QStringList{"a", "  b"});
 }
 
 void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode()
@@ -77,10 +77,10 @@ void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode()
 void TestTreeModel::valuesThatAreNoRowsGiveNoTree_data()
 {
     QTest::addColumn<QJsonValue>("rows");
-    QTest::newRow("null") << QJsonValue();
-    QTest::newRow("empty array") << QJsonValue(QJsonArray{});
-    QTest::newRow("object") << QJsonValue(QJsonObject{{"a", 1}});
-    QTest::newRow("text") << QJsonValue("[]");
+    testRow("null", QJsonValue());
+    testRow("empty array", QJsonValue(QJsonArray{}));
+    testRow("object", QJsonValue(QJsonObject{{"a", 1}}));
+    testRow("text", QJsonValue("[]"));
 }
 
 void TestTreeModel::valuesThatAreNoRowsGiveNoTree()

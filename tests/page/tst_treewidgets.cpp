@@ -102,34 +102,13 @@ void TestTreeWidgets::selectionGoesDownToALeafOrTheCaption_data()
     QTest::addColumn<QString>("current");
     QTest::addColumn<QString>("opened");
 
-    QTest::newRow("leaf") << "13"
-                          << ""
-                          << "行情/指数/Absolute"
-                          << "261 Absolute";
-    QTest::newRow("folder goes down to its first leaf") << "20"
-                                                        << ""
-                                                        << "公司/资料"
-                                                        << "263 资料";
-    QTest::newRow("caption ends the way down") << "10"
-                                               << "指数"
-                                               << "行情/指数"
-                                               << "";
-    QTest::newRow("caption further down") << "10"
-                                          << "abbey"
-                                          << "行情/日线"
-                                          << "260 日线";
-    QTest::newRow("caption with another case does not count") << "12"
-                                                              << "ABBEY"
-                                                              << "行情/指数/Absolute"
-                                                              << "261 Absolute";
-    QTest::newRow("unknown code starts at the first row") << "999"
-                                                          << ""
-                                                          << "行情/日线"
-                                                          << "260 日线";
-    QTest::newRow("no number starts at the first row") << "x"
-                                                       << "指数"
-                                                       << "行情/指数"
-                                                       << "";
+    testRow("leaf", "13", "", "行情/指数/Absolute", "261 Absolute");
+    testRow("folder goes down to its first leaf", "20", "", "公司/资料", "263 资料");
+    testRow("caption ends the way down", "10", "指数", "行情/指数", "");
+    testRow("caption further down", "10", "abbey", "行情/日线", "260 日线");
+    testRow("caption with another case does not count", "12", "ABBEY", "行情/指数/Absolute", "261 Absolute");
+    testRow("unknown code starts at the first row", "999", "", "行情/日线", "260 日线");
+    testRow("no number starts at the first row", "x", "指数", "行情/指数", "");
 }
 
 void TestTreeWidgets::selectionGoesDownToALeafOrTheCaption()
@@ -150,14 +129,10 @@ void TestTreeWidgets::menuItemIsFoundByNameAndView_data()
     QTest::addColumn<QString>("sectorName");
     QTest::addColumn<QString>("current");
 
-    QTest::newRow("name and view") << "abbey" << 262 << "公司"
-                                   << "行情/指数/abbey";
-    QTest::newRow("name with another view falls back to the sector") << "abbey" << 1 << "公司"
-                                                                     << "公司/资料";
-    QTest::newRow("neither") << "x" << 1 << "y"
-                             << "行情/日线";
-    QTest::newRow("empty record") << "" << 0 << ""
-                                  << "行情/日线";
+    testRow("name and view", "abbey", 262, "公司", "行情/指数/abbey");
+    testRow("name with another view falls back to the sector", "abbey", 1, "公司", "公司/资料");
+    testRow("neither", "x", 1, "y", "行情/日线");
+    testRow("empty record", "", 0, "", "行情/日线");
 }
 
 void TestTreeWidgets::menuItemIsFoundByNameAndView()
@@ -188,17 +163,18 @@ void TestTreeWidgets::searchOpensTheFirstLeafThatRemains_data()
     QTest::addColumn<QStringList>("expected");
     QTest::addColumn<QString>("opened");
 
-    QTest::newRow("last character may repeat, any case")
-        << "AB" << QStringList{"行情", "  指数", "    Absolute", "    abbey"} << "261 Absolute";
-    QTest::newRow("repeated character") << "abb" << QStringList{"行情", "  指数", "    abbey"} << "262 abbey";
-    QTest::newRow("pattern") << "^资|^日" << QStringList{"行情", "  日线", "公司", "  资料"} << "260 日线";
-    QTest::newRow("match of a folder alone") << "公司" << QStringList{} << "";
-    QTest::newRow("no pattern at all") << "a(" << QStringList{} << "";
-    QTest::newRow("empty") << "" << TreeText::lines([] {
-        static TFSubjectTreeModel model;
-        model.build(TreeText::navigation(), 2, false);
-        return std::ref(model);
-    }()) << "260 日线";
+    testRow("last character may repeat, any case", "AB",
+            QStringList{"行情", "  指数", "    Absolute", "    abbey"}, "261 Absolute");
+    testRow("repeated character", "abb", QStringList{"行情", "  指数", "    abbey"}, "262 abbey");
+    testRow("pattern", "^资|^日", QStringList{"行情", "  日线", "公司", "  资料"}, "260 日线");
+    testRow("match of a folder alone", "公司", QStringList{}, "");
+    testRow("no pattern at all", "a(", QStringList{}, "");
+    testRow("empty", "", TreeText::lines([] {
+                static TFSubjectTreeModel model;
+                model.build(TreeText::navigation(), 2, false);
+                return std::ref(model);
+            }()),
+            "260 日线");
 }
 
 void TestTreeWidgets::searchOpensTheFirstLeafThatRemains()
@@ -242,12 +218,11 @@ void TestTreeWidgets::clickOpensWhatIsNotOpenYet_data()
     QTest::addColumn<QList<int>>("clicked"); // place of the group and of the leaf, -1 for the group itself
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("open leaf") << QList<int>{0, 0} << QStringList{};
-    QTest::newRow("another leaf and back") << QList<int>{1, 0, 0, 0} << QStringList{"263 资料", "260 日线"};
-    QTest::newRow("folder keeps what is open") << QList<int>{1, -1, 0, 0} << QStringList{};
-    QTest::newRow("node with an address opens each time")
-        << QList<int>{1, 1, 1, 1}
-        << QStringList{"264 网站 http://127.0.0.1:1/x", "264 网站 http://127.0.0.1:1/x"};
+    testRow("open leaf", QList<int>{0, 0}, QStringList{});
+    testRow("another leaf and back", QList<int>{1, 0, 0, 0}, QStringList{"263 资料", "260 日线"});
+    testRow("folder keeps what is open", QList<int>{1, -1, 0, 0}, QStringList{});
+    testRow("node with an address opens each time", QList<int>{1, 1, 1, 1},
+            QStringList{"264 网站 http://127.0.0.1:1/x", "264 网站 http://127.0.0.1:1/x"});
 }
 
 void TestTreeWidgets::clickOpensWhatIsNotOpenYet()

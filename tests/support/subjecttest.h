@@ -39,6 +39,13 @@ private slots:
     void cleanup() { endMessages(); }
 };
 
+/// Adds the row \a name of test data, one value a column.
+template <typename... T> void testRow(const char *name, const T &...values)
+{
+    QTestData &row = QTest::newRow(name);
+    (void(row << values), ...);
+}
+
 /// Program entry of a test with widgets: offscreen unless a display was asked for, English messages.
 #define SUBJECT_TEST_MAIN(TestClass)                                                                         \
     int main(int argc, char *argv[])                                                                         \
