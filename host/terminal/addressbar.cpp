@@ -12,6 +12,7 @@
 AddressBar::AddressBar(const MainActions &actions, QAction *panelAction, QWidget *parent)
     : QToolBar(parent)
     , m_line(new QLineEdit)
+    , m_lineAction(nullptr)
     , m_skin(new QToolButton)
     , m_panelAction(panelAction)
 {
@@ -32,7 +33,7 @@ AddressBar::AddressBar(const MainActions &actions, QAction *panelAction, QWidget
     addAction(actions.home);
     addAction(actions.reload);
     addAction(actions.newTab);
-    addWidget(m_line);
+    m_lineAction = addWidget(m_line);
     addWidget(m_skin);
     addAction(actions.service);
     addAction(panelAction);
@@ -55,6 +56,14 @@ void AddressBar::focusAddress()
 {
     m_line->setFocus(Qt::ShortcutFocusReason);
     m_line->selectAll();
+}
+
+void AddressBar::addScreens(QMenu *menu)
+{
+    insertAction(m_lineAction, menu->menuAction());
+    auto *button = qobject_cast<QToolButton *>(widgetForAction(menu->menuAction()));
+    button->setObjectName("ScreensButton");
+    button->setPopupMode(QToolButton::InstantPopup);
 }
 
 void AddressBar::redraw()

@@ -6,6 +6,7 @@
 class MainActions;
 class QAction;
 class QLineEdit;
+class QMenu;
 class QToolButton;
 
 /// The line with the address of the current page and the most used commands. Object names: "AddressBar",
@@ -20,6 +21,8 @@ public:
     /// Shows the address of the current page; what the user is typing stays.
     void setUrl(const QUrl &url);
     void focusAddress();
+    /// Puts a button for the menu of composite screens before the address.
+    void addScreens(QMenu *menu);
     void redraw();
 
 signals:
@@ -33,6 +36,7 @@ private:
     void retranslate();
 
     QLineEdit *m_line;
+    QAction *m_lineAction;
     QToolButton *m_skin;
     QAction *m_panelAction;
 };

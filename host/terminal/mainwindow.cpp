@@ -7,6 +7,7 @@
 #include "noticebar.h"
 #include "pagefactory.h"
 #include "pagetabs.h"
+#include "screen/screenmenu.h"
 #include "topicmenu.h"
 
 #include <QActionGroup>
@@ -70,6 +71,10 @@ void MainWindow::makeMenus()
     menuBar()->addMenu(m_topics);
     m_topics->menuAction()->setVisible(false);
 
+    m_screens = new ScreenMenu(this);
+    menuBar()->addMenu(m_screens);
+    m_address->addScreens(m_screens);
+
     m_viewMenu = menuBar()->addMenu(QString());
     m_skinMenu = m_viewMenu->addMenu(QString());
     m_languageMenu = m_viewMenu->addMenu(QString());
@@ -132,6 +137,7 @@ void MainWindow::redraw()
     setWindowIcon(Look::icon("terminal"));
     m_actions->redraw();
     m_address->redraw();
+    m_screens->redraw();
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -143,6 +149,10 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (!m_tabs->mayClose()) {
+        event->ignore();
+        return;
+    }
     emit closing();
     QMainWindow::closeEvent(event);
 }
@@ -155,6 +165,7 @@ void MainWindow::retranslate()
     m_skinMenu->setTitle(tr("&Skin"));
     m_languageMenu->setTitle(tr("&Language"));
     m_helpMenu->setTitle(tr("&Help"));
+    m_screens->retranslate();
     m_actions->retranslate();
     updateTitle();
 }

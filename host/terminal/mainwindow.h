@@ -10,6 +10,7 @@ class NoticeBar;
 class PageFactory;
 class PageTabs;
 class QMenu;
+class ScreenMenu;
 class TopicMenu;
 
 /// The terminal's window: menus, address line, tabs, panel. It builds and connects; what the commands do
@@ -26,6 +27,7 @@ public:
     NoticeBar &notice() { return *m_notice; }
     ActivityPanel &activity() { return *m_activity; }
     TopicMenu &topics() { return *m_topics; }
+    ScreenMenu &screens() { return *m_screens; }
 
     /// Opens the home page in a new tab.
     void openHome();
@@ -57,6 +59,7 @@ private:
     AddressBar *m_address;
     QMenu *m_pageMenu;
     TopicMenu *m_topics;
+    ScreenMenu *m_screens;
     QMenu *m_viewMenu;
     QMenu *m_skinMenu;
     QMenu *m_languageMenu;

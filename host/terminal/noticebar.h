@@ -15,7 +15,7 @@ class NoticeBar : public QFrame
 
 public:
     /// What a notice is about; there is one line a subject, in this order.
-    enum Subject { Plugins, Service, Page, SubjectCount };
+    enum Subject { Plugins, Service, Page, Screen, SubjectCount };
 
     explicit NoticeBar(QWidget *parent = nullptr);
 

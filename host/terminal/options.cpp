@@ -9,6 +9,7 @@ void addOptions(QCommandLineParser &parser)
 {
     parser.addOptions({
         {"page", "Open this page address instead of the home page; may be given several times.", "url"},
+        {"screen", "Open the composite screen of this file; may be given several times.", "file"},
         {"service", "Address of the data service; without it the demonstration service is started.", "url"},
         {"token", "Access token for the data service.", "text"},
         {"user", "User identifier.", "text"},
@@ -58,6 +59,7 @@ Options read(const QCommandLineParser &parser)
 {
     Options options;
     options.pages = parser.values("page");
+    options.screens = parser.values("screen");
     options.service = given(parser, "service");
     options.token = given(parser, "token");
     options.user = given(parser, "user");

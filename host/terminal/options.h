@@ -10,6 +10,7 @@
 struct Options
 {
     QStringList pages;
+    QStringList screens; ///< files of composite screens
     std::optional<QString> service;
     std::optional<QString> token;
     std::optional<QString> user;

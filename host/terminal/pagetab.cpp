@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 PageTab::PageTab(const PageFactory *factory, const QUrl &url, QWidget *parent)
-    : QWidget(parent)
+    : TerminalTab(parent)
     , m_factory(factory)
     , m_url(url)
     , m_layout(new QVBoxLayout(this))

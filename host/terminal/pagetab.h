@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QIcon>
+#include "terminaltab.h"
+
 #include <QPointer>
-#include <QUrl>
-#include <QWidget>
 
 class ITFAbstractPage;
 class PageFactory;
@@ -12,30 +11,21 @@ class QVBoxLayout;
 
 /// One tab: a page, or the reason why there is none. The object name is "PageTab", that of the reason
 /// "PageFault".
-class PageTab : public QWidget
+class PageTab : public TerminalTab
 {
     Q_OBJECT
 
 public:
     PageTab(const PageFactory *factory, const QUrl &url, QWidget *parent = nullptr);
 
-    QUrl url() const { return m_url; }
+    QUrl url() const override { return m_url; }
     /// Title that the page gave itself, or the address until it has one.
-    QString title() const;
-    QIcon icon() const { return m_icon; }
+    QString title() const override;
+    QIcon icon() const override { return m_icon; }
 
-    /// Makes the page of url(). To be called once the tab is in place, since a page tells its title and icon
-    /// while it starts.
-    void open();
-    /// Makes the page anew from its address.
-    void reload();
-
-signals:
-    void titleChanged(const QString &title);
-    void iconChanged(const QIcon &icon);
-    void urlChanged(const QUrl &url);
-    /// The page wants another page opened.
-    void openRequested(const QString &url);
+    /// Makes the page of url().
+    void open() override;
+    void reload() override;
 
 private slots:
     void setPageTitle(const QString &title);

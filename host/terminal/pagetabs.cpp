@@ -6,6 +6,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+#include <algorithm>
+
 namespace {
 constexpr int TabTextWidth = 28;
 
@@ -36,13 +38,17 @@ PageTabs::PageTabs(const PageFactory *factory, QWidget *parent)
     m_tabs->tabBar()->setDrawBase(false);
     addWidget(m_hint);
     addWidget(m_tabs);
-    connect(m_tabs, &QTabWidget::tabCloseRequested, this, &PageTabs::close);
+    connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { close(at(index)); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &PageTabs::tellCurrent);
 }
 
 void PageTabs::open(const QUrl &url)
 {
-    auto *tab = new PageTab(m_factory, url);
+    add(new PageTab(m_factory, url));
+}
+
+void PageTabs::add(TerminalTab *tab)
+{
     listenTo(tab);
     m_tabs->addTab(tab, shortened(tab->title()));
     m_tabs->setCurrentWidget(tab);
@@ -50,22 +56,46 @@ void PageTabs::open(const QUrl &url)
     tab->open();
 }
 
-void PageTabs::listenTo(PageTab *tab)
+void PageTabs::show(TerminalTab *tab)
 {
-    connect(tab, &PageTab::titleChanged, this, [this, tab](const QString &title) {
+    m_tabs->setCurrentWidget(tab);
+}
+
+void PageTabs::listenTo(TerminalTab *tab)
+{
+    connect(tab, &TerminalTab::titleChanged, this, [this, tab](const QString &title) {
         m_tabs->setTabText(m_tabs->indexOf(tab), shortened(title));
         m_tabs->setTabToolTip(m_tabs->indexOf(tab), title);
         tellCurrent();
     });
-    connect(tab, &PageTab::iconChanged, this,
+    connect(tab, &TerminalTab::iconChanged, this,
             [this, tab](const QIcon &icon) { m_tabs->setTabIcon(m_tabs->indexOf(tab), icon); });
-    connect(tab, &PageTab::urlChanged, this, &PageTabs::tellCurrent);
-    connect(tab, &PageTab::openRequested, this, &PageTabs::openRequested);
+    connect(tab, &TerminalTab::urlChanged, this, &PageTabs::tellCurrent);
+    connect(tab, &TerminalTab::openRequested, this, &PageTabs::openRequested);
 }
 
-PageTab *PageTabs::current() const
+TerminalTab *PageTabs::at(int index) const
 {
-    return qobject_cast<PageTab *>(m_tabs->currentWidget());
+    return qobject_cast<TerminalTab *>(m_tabs->widget(index));
+}
+
+TerminalTab *PageTabs::current() const
+{
+    return at(m_tabs->currentIndex());
+}
+
+QList<TerminalTab *> PageTabs::all() const
+{
+    QList<TerminalTab *> tabs;
+    for (int i = 0; i < m_tabs->count(); ++i)
+        tabs.append(at(i));
+    return tabs;
+}
+
+bool PageTabs::mayClose()
+{
+    const QList<TerminalTab *> tabs = all();
+    return std::all_of(tabs.begin(), tabs.end(), [](TerminalTab *tab) { return tab->mayClose(); });
 }
 
 int PageTabs::count() const
@@ -85,29 +115,28 @@ QString PageTabs::hint() const
 
 void PageTabs::closeCurrent()
 {
-    close(m_tabs->currentIndex());
+    close(current());
 }
 
-void PageTabs::close(int index)
+void PageTabs::close(TerminalTab *tab)
 {
-    QWidget *tab = m_tabs->widget(index);
-    if (!tab)
+    if (!tab || !tab->mayClose())
         return;
-    m_tabs->removeTab(index);
+    m_tabs->removeTab(m_tabs->indexOf(tab));
     tab->deleteLater();
     updateShown();
 }
 
 void PageTabs::reloadCurrent()
 {
-    if (PageTab *tab = current())
+    if (TerminalTab *tab = current())
         tab->reload();
 }
 
 void PageTabs::reloadAll()
 {
-    for (int i = 0; i < m_tabs->count(); ++i)
-        qobject_cast<PageTab *>(m_tabs->widget(i))->reload();
+    for (TerminalTab *tab : all())
+        tab->reload();
 }
 
 void PageTabs::step(int step)
@@ -119,7 +148,7 @@ void PageTabs::step(int step)
 
 void PageTabs::tellCurrent()
 {
-    const PageTab *tab = current();
+    const TerminalTab *tab = current();
     emit currentChanged(tab ? tab->url() : QUrl(), tab ? tab->title() : QString());
 }
 

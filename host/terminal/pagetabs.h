@@ -4,12 +4,12 @@
 #include <QUrl>
 
 class PageFactory;
-class PageTab;
 class QLabel;
 class QTabWidget;
+class TerminalTab;
 
-/// The open pages, one a tab, or a line of text while there is none. The tab widget has the object name
-/// "PageTabs", the line "EmptyHint".
+/// The open pages and screens, one a tab, or a line of text while there is none. The tab widget has the
+/// object name "PageTabs", the line "EmptyHint".
 class PageTabs : public QStackedWidget
 {
     Q_OBJECT
@@ -18,8 +18,16 @@ public:
     explicit PageTabs(const PageFactory *factory, QWidget *parent = nullptr);
 
     void open(const QUrl &url);
-    PageTab *current() const;
+    /// Puts \a tab at the end, shows it and opens it.
+    void add(TerminalTab *tab);
+    void show(TerminalTab *tab);
+    /// Closes \a tab unless it would rather stay.
+    void close(TerminalTab *tab);
+    TerminalTab *current() const;
+    QList<TerminalTab *> all() const;
     int count() const;
+    /// Asks each tab whether it may go.
+    bool mayClose();
     /// What is said while no page is open.
     void setHint(const QString &text);
     QString hint() const;
@@ -36,8 +44,8 @@ signals:
     void openRequested(const QString &url);
 
 private:
-    void close(int index);
-    void listenTo(PageTab *tab);
+    TerminalTab *at(int index) const;
+    void listenTo(TerminalTab *tab);
     void tellCurrent();
     void updateShown();
 

@@ -19,6 +19,7 @@ const char ArgumentsKey[] = "Arguments";
 const char DependenciesKey[] = "Dependencies";
 const char UrlKey[] = "Url";
 const char DescriptionKey[] = "Description";
+const char ComponentsKey[] = "Components";
 
 struct Texts
 {
@@ -50,6 +51,12 @@ void readMetaData(const QJsonObject &data, PluginInfo *info)
         info->dependencies.append(readDependency(dependency));
     info->url = QUrl(data.value(UrlKey).toString());
     info->description = data.value(DescriptionKey).toString();
+    const QJsonObject components = data.value(ComponentsKey).toObject();
+    for (auto it = components.begin(); it != components.end(); ++it) {
+        const QJsonObject names = it.value().toObject();
+        for (auto name = names.begin(); name != names.end(); ++name)
+            info->components[it.key()][name.key()] = name.value().toString();
+    }
 }
 
 QString faultOf(const QJsonObject &metaData, const PluginInfo &info)

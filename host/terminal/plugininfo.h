@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -35,6 +36,9 @@ struct PluginInfo
     QVector<PluginDependency> dependencies;
     QUrl url; ///< home page of the plug-in
     QString description;
+    /// Names for users of the components that it offers for composite screens: class name, language code,
+    /// name.
+    QMap<QString, QMap<QString, QString>> components;
 
     State state = Invalid;
     QString reason; ///< why it is Invalid or Failed, empty otherwise

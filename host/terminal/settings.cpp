@@ -17,6 +17,7 @@ const char SkinKey[] = "Look/Skin";
 const char LanguageKey[] = "Look/Language";
 const char GeometryKey[] = "Window/Geometry";
 const char StateKey[] = "Window/State";
+const char OpenScreensKey[] = "Screens/Open";
 const char DefaultUser[] = "demo";
 const char DefaultProduct[] = "terminal";
 const char DefaultSkin[] = "white";
@@ -85,6 +86,16 @@ QString Settings::language() const
 void Settings::setLanguage(const QString &language)
 {
     setValues({{LanguageKey, language}});
+}
+
+QStringList Settings::openScreens() const
+{
+    return value(OpenScreensKey).toStringList();
+}
+
+void Settings::setOpenScreens(const QStringList &paths)
+{
+    setValues({{OpenScreensKey, paths}});
 }
 
 QByteArray Settings::geometry() const

@@ -22,6 +22,9 @@ public:
     /// "zh" or "en".
     QString language() const;
     void setLanguage(const QString &language);
+    /// Files of the composite screens that were open.
+    QStringList openScreens() const;
+    void setOpenScreens(const QStringList &paths);
     QByteArray geometry() const;
     QByteArray windowState() const;
     void setWindow(const QByteArray &geometry, const QByteArray &state);

@@ -13,6 +13,8 @@
 #include "pagetabs.h"
 #include "pluginmanager.h"
 #include "programfolders.h"
+#include "screen/componentcatalog.h"
+#include "screen/screens.h"
 #include "terminallog.h"
 #include "tfcore/tfappconfig.h"
 #include "tfcore/tfcore.h"
@@ -66,6 +68,7 @@ Terminal::Terminal(const Options &options, QObject *parent)
     , m_look(std::make_unique<Look>())
     , m_plugins(std::make_unique<PluginManager>())
     , m_factory(std::make_unique<PageFactory>(m_plugins.get()))
+    , m_catalog(std::make_unique<ComponentCatalog>(m_plugins.get()))
     , m_service(std::make_unique<ServiceProcess>())
 {
     initResources();
@@ -103,6 +106,7 @@ void Terminal::makeWindow()
     core->setMainWindow(m_window.get());
     m_window->actions().setSkins(core->skins(), core->getCurrentSkinId());
     m_window->actions().setLanguage(m_languages->current());
+    m_screens = std::make_unique<Screens>(m_catalog.get(), m_window.get(), &m_settings);
     connectWindow();
     restoreWindow();
 }
@@ -202,10 +206,14 @@ void Terminal::openFirstPages()
     if (!m_pluginsLoaded || !m_serviceKnown || m_pagesOpened)
         return;
     m_pagesOpened = true;
-    if (m_options.pages.isEmpty())
+    if (m_options.pages.isEmpty() && m_options.screens.isEmpty())
         m_window->openHome();
+    if (isInteractive())
+        m_screens->openLast();
     for (const QString &page : qAsConst(m_options.pages))
         m_window->openStringUrl(page);
+    for (const QString &screen : qAsConst(m_options.screens))
+        m_screens->open(screen);
     if (!isInteractive())
         takeScreenshot();
 }
@@ -254,7 +262,11 @@ void Terminal::writeScreenshot(bool settled)
 
 void Terminal::shutdown()
 {
-    if (isInteractive())
+    if (isInteractive()) {
         m_settings.setWindow(m_window->saveGeometry(), m_window->saveState());
+        // Of a terminal that ends before it has opened any, the last ones stay.
+        if (m_pagesOpened)
+            m_screens->remember();
+    }
     m_plugins->shutdown();
 }

@@ -9,12 +9,14 @@
 
 #include <memory>
 
+class ComponentCatalog;
 class Languages;
 class Look;
 class MainWindow;
 class MessageCollector;
 class PageFactory;
 class PluginManager;
+class Screens;
 
 /// The running application: brings up the window, the plug-ins and the data service side by side, and opens
 /// the first pages when all are there.
@@ -30,6 +32,7 @@ public:
     void start();
 
     MainWindow &window() { return *m_window; }
+    Screens &screens() { return *m_screens; }
 
 private:
     void prepareCore();
@@ -63,6 +66,8 @@ private:
     std::unique_ptr<Look> m_look;
     std::unique_ptr<PluginManager> m_plugins;
     std::unique_ptr<PageFactory> m_factory;
+    std::unique_ptr<ComponentCatalog> m_catalog;
     std::unique_ptr<ServiceProcess> m_service;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<Screens> m_screens;
 };

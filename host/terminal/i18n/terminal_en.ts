@@ -64,6 +64,121 @@
     </message>
 </context>
 <context>
+    <name>ArgumentsDialog</name>
+    <message>
+        <source>Components that follow an argument show its value at once.</source>
+        <translation>Components that follow an argument show its value at once.</translation>
+    </message>
+    <message>
+        <source>There are no global arguments yet.</source>
+        <translation>There are no global arguments yet.</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>View of a component</source>
+        <translation>View of a component</translation>
+    </message>
+    <message>
+        <source>Global arguments</source>
+        <translation>Global arguments</translation>
+    </message>
+    <message>
+        <source>Sets the argument to a view that a component of this screen shows</source>
+        <translation>Sets the argument to a view that a component of this screen shows</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Choose the argument that the component follows.</source>
+        <translation>Choose the argument that the component follows.</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Follow</translation>
+    </message>
+</context>
+<context>
+    <name>ArgumentsModel</name>
+    <message>
+        <source>Row %1 has no name.</source>
+        <translation>Row %1 has no name.</translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is there twice.</source>
+        <translation>The name &quot;%1&quot; is there twice.</translation>
+    </message>
+    <message>
+        <source>Argument %1</source>
+        <translation>Argument %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+</context>
+<context>
+    <name>CellStrip</name>
+    <message>
+        <source>Settings of the component (Ctrl+P)</source>
+        <translation>Settings of the component (Ctrl+P)</translation>
+    </message>
+    <message>
+        <source>Add a component at the right</source>
+        <translation>Add a component at the right</translation>
+    </message>
+    <message>
+        <source>Add a component below</source>
+        <translation>Add a component below</translation>
+    </message>
+    <message>
+        <source>Remove the component</source>
+        <translation>Remove the component</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+</context>
+<context>
+    <name>ComponentCatalog</name>
+    <message>
+        <source>No plug-in offers components</source>
+        <translation>No plug-in offers components</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyScreen</name>
+    <message>
+        <source>This screen is empty</source>
+        <translation>This screen is empty</translation>
+    </message>
+    <message>
+        <source>No plug-in offers components.</source>
+        <translation>No plug-in offers components.</translation>
+    </message>
+    <message>
+        <source>Place a first component; more go beside and below it.</source>
+        <translation>Place a first component; more go beside and below it.</translation>
+    </message>
+</context>
+<context>
     <name>EndpointDialog</name>
     <message>
         <source>Demonstration data on this computer</source>
@@ -239,37 +354,6 @@
     </message>
 </context>
 <context>
-    <name>PluginManager</name>
-    <message>
-        <source>a plug-in of this name was found before, in %1</source>
-        <translation>a plug-in of this name was found before, in %1</translation>
-    </message>
-    <message>
-        <source>needs %1 %2, which is not there</source>
-        <translation>needs %1 %2, which is not there</translation>
-    </message>
-    <message>
-        <source>depends on itself by way of %1</source>
-        <translation>depends on itself by way of %1</translation>
-    </message>
-    <message>
-        <source>needs %1, which does not work: %2</source>
-        <translation>needs %1, which does not work: %2</translation>
-    </message>
-    <message>
-        <source>needs %1, which did not start</source>
-        <translation>needs %1, which did not start</translation>
-    </message>
-    <message>
-        <source>its class is not derived from IPlugin</source>
-        <translation>its class is not derived from IPlugin</translation>
-    </message>
-    <message>
-        <source>it refused to start and gave no reason</source>
-        <translation>it refused to start and gave no reason</translation>
-    </message>
-</context>
-<context>
     <name>PluginInfo</name>
     <message>
         <source>not a plug-in</source>
@@ -313,6 +397,37 @@
     </message>
 </context>
 <context>
+    <name>PluginManager</name>
+    <message>
+        <source>a plug-in of this name was found before, in %1</source>
+        <translation>a plug-in of this name was found before, in %1</translation>
+    </message>
+    <message>
+        <source>needs %1 %2, which is not there</source>
+        <translation>needs %1 %2, which is not there</translation>
+    </message>
+    <message>
+        <source>depends on itself by way of %1</source>
+        <translation>depends on itself by way of %1</translation>
+    </message>
+    <message>
+        <source>needs %1, which does not work: %2</source>
+        <translation>needs %1, which does not work: %2</translation>
+    </message>
+    <message>
+        <source>needs %1, which did not start</source>
+        <translation>needs %1, which did not start</translation>
+    </message>
+    <message>
+        <source>its class is not derived from IPlugin</source>
+        <translation>its class is not derived from IPlugin</translation>
+    </message>
+    <message>
+        <source>it refused to start and gave no reason</source>
+        <translation>it refused to start and gave no reason</translation>
+    </message>
+</context>
+<context>
     <name>RequestModel</name>
     <message>
         <source>done</source>
@@ -341,6 +456,206 @@
     <message>
         <source>ms</source>
         <translation>ms</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenBar</name>
+    <message>
+        <source>Saved at %1</source>
+        <translation>Saved at %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Not saved</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Changed</translation>
+    </message>
+    <message>
+        <source>Add component</source>
+        <translation>Add component</translation>
+    </message>
+    <message>
+        <source>Global arguments...</source>
+        <translation>Global arguments...</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenCell</name>
+    <message>
+        <source>No plug-in offers the component %1. Its settings are kept.</source>
+        <translation>No plug-in offers the component %1. Its settings are kept.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenFile</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>too large for a composite screen</source>
+        <translation>too large for a composite screen</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenFormat</name>
+    <message>
+        <source>line %1</source>
+        <translation>line %1</translation>
+    </message>
+    <message>
+        <source>this is no composite screen</source>
+        <translation>this is no composite screen</translation>
+    </message>
+    <message>
+        <source>a number is expected</source>
+        <translation>a number is expected</translation>
+    </message>
+    <message>
+        <source>written by a newer terminal</source>
+        <translation>written by a newer terminal</translation>
+    </message>
+    <message>
+        <source>a text is expected</source>
+        <translation>a text is expected</translation>
+    </message>
+    <message>
+        <source>an argument has no name</source>
+        <translation>an argument has no name</translation>
+    </message>
+    <message>
+        <source>a map is expected</source>
+        <translation>a map is expected</translation>
+    </message>
+    <message>
+        <source>nested too deeply</source>
+        <translation>nested too deeply</translation>
+    </message>
+    <message>
+        <source>one of &quot;class&quot;, &quot;row&quot; and &quot;column&quot; is expected</source>
+        <translation>one of &quot;class&quot;, &quot;row&quot; and &quot;column&quot; is expected</translation>
+    </message>
+    <message>
+        <source>the name of a component is expected</source>
+        <translation>the name of a component is expected</translation>
+    </message>
+    <message>
+        <source>a list of cells is expected</source>
+        <translation>a list of cells is expected</translation>
+    </message>
+    <message>
+        <source>a positive number is expected for each cell</source>
+        <translation>a positive number is expected for each cell</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenListDialog</name>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Composite screens</source>
+        <translation>Composite screens</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Last change</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>%1, damaged</source>
+        <translation>%1, damaged</translation>
+    </message>
+    <message>
+        <source>Delete %1? This cannot be undone.</source>
+        <translation>Delete %1? This cannot be undone.</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenMenu</name>
+    <message>
+        <source>&amp;Composite screens</source>
+        <translation>&amp;Composite screens</translation>
+    </message>
+    <message>
+        <source>Composite screens</source>
+        <translation>Composite screens</translation>
+    </message>
+    <message>
+        <source>&amp;New screen</source>
+        <translation>&amp;New screen</translation>
+    </message>
+    <message>
+        <source>&amp;Save screen</source>
+        <translation>&amp;Save screen</translation>
+    </message>
+    <message>
+        <source>&amp;Global arguments...</source>
+        <translation>&amp;Global arguments...</translation>
+    </message>
+    <message>
+        <source>&amp;Manage screens...</source>
+        <translation>&amp;Manage screens...</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenTab</name>
+    <message>
+        <source>%1 is damaged; what can be read is open, and the file is kept when the screen is saved. %2</source>
+        <translation>%1 is damaged; what can be read is open, and the file is kept when the screen is saved. %2</translation>
+    </message>
+    <message>
+        <source>The screen cannot be saved. %1</source>
+        <translation>The screen cannot be saved. %1</translation>
+    </message>
+    <message>
+        <source>What lay in the file of the screen before is kept as %1</source>
+        <translation>What lay in the file of the screen before is kept as %1</translation>
+    </message>
+    <message>
+        <source>Composite screen</source>
+        <translation>Composite screen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be saved. Close it and lose the changes?</source>
+        <translation>%1 cannot be saved. Close it and lose the changes?</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+</context>
+<context>
+    <name>Screens</name>
+    <message>
+        <source>Screen %1</source>
+        <translation>Screen %1</translation>
     </message>
 </context>
 <context>
@@ -395,6 +710,17 @@
     <message>
         <source>Try again</source>
         <translation>Try again</translation>
+    </message>
+</context>
+<context>
+    <name>VariantJson</name>
+    <message>
+        <source>%1: a value of type %2 cannot be kept</source>
+        <translation>%1: a value of type %2 cannot be kept</translation>
+    </message>
+    <message>
+        <source>%1: a whole number of 64 bits is expected as a text</source>
+        <translation>%1: a whole number of 64 bits is expected as a text</translation>
     </message>
 </context>
 </TS>
