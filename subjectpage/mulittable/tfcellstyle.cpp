@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 const char kSkinProperty[] = "$skin";
 const char kDefaultColor[] = "$use_default_color";
@@ -21,16 +23,27 @@ QPointer<QJSEngine> &sharedEngine()
     return engine;
 }
 
-/// Whether a script can reach a variable without spelling its name.
-bool readsByName(const QString &expression)
+/// Whether a ")" closes more than the expression has opened, so that it ends the parentheses around it.
+bool leavesItsParentheses(const QString &expression)
 {
-    static const QRegularExpression words(QStringLiteral("\\b(this|eval|Function|globalThis|with)\\b"));
-    return expression.contains(words);
+    int depth = 0;
+    return std::any_of(expression.begin(), expression.end(), [&depth](QChar c) {
+        depth += c == QLatin1Char('(') ? 1 : c == QLatin1Char(')') ? -1 : 0;
+        return depth < 0;
+    });
+}
+
+/// Whether a script can reach a variable without spelling its name, or can see that it is in a function.
+bool needsGlobals(const QString &expression)
+{
+    static const QRegularExpression signs(QStringLiteral(
+        "\\b(this|eval|Function|constructor|globalThis|with|arguments)\\b|\\bnew\\s*\\.|\\\\u"));
+    return expression.contains(signs) || leavesItsParentheses(expression);
 }
 
 QStringList namesIn(const QString &expression)
 {
-    static const QRegularExpression name(QStringLiteral("\\$[\\w$]*"),
+    static const QRegularExpression name(QStringLiteral("\\$[\\w\\p{M}\\p{Pc}\\x{200c}\\x{200d}$]*"),
                                          QRegularExpression::UseUnicodePropertiesOption);
     QStringList names;
     auto matches = name.globalMatch(expression);
@@ -60,7 +73,7 @@ void TFStyleEngine::publishSkin(const QString &skinId)
 TFCellStyle::TFCellStyle(const QString &expression, const QVector<QString> &fieldNames)
     : m_expression(expression)
     , m_fieldNames(fieldNames)
-    , m_seesAll(readsByName(expression))
+    , m_needsGlobals(needsGlobals(expression))
 {}
 
 QVariant TFCellStyle::colour(const TFRowStore &rows, int row)
@@ -78,14 +91,8 @@ QVariant TFCellStyle::colour(const TFRowStore &rows, int row)
 
 QJSValue TFCellStyle::evaluate(const TFRowStore &rows, int row)
 {
-    TFScriptGuard guard(TFStyleEngine::engine());
-    if (m_seesAll)
-        publishAll(rows, row);
-    Compiled &script = compiled(rows.cellCount(row));
-    QJSValueList arguments;
-    for (int cell : script.cells)
-        arguments.append(rows.value(row, cell).toString());
-    QJSValue result = script.function.isCallable() ? script.function.call(arguments) : script.function;
+    const TFScriptGuard guard(TFStyleEngine::engine());
+    QJSValue result = m_needsGlobals ? evaluateAnew(rows, row) : call(rows, row);
     if (result.isCallable())
         result = result.call();
     if (guard.interrupted()) {
@@ -94,6 +101,25 @@ QJSValue TFCellStyle::evaluate(const TFRowStore &rows, int row)
         return {};
     }
     return result;
+}
+
+QJSValue TFCellStyle::call(const TFRowStore &rows, int row)
+{
+    Compiled &script = compiled(rows.cellCount(row));
+    QJSValueList arguments;
+    for (const int cell : qAsConst(script.cells))
+        arguments.append(rows.value(row, cell).toString());
+    return script.function.isCallable() ? script.function.call(arguments) : script.function;
+}
+
+QJSValue TFCellStyle::evaluateAnew(const TFRowStore &rows, int row) const
+{
+    QJSEngine *engine = TFStyleEngine::engine();
+    QJSValue global = engine->globalObject();
+    const QHash<QString, int> cells = published(rows.cellCount(row));
+    for (auto cell = cells.begin(); cell != cells.end(); ++cell)
+        global.setProperty(cell.key(), rows.value(row, cell.value()).toString());
+    return engine->evaluate(QStringLiteral("(%1)").arg(m_expression), QString(), 1);
 }
 
 TFCellStyle::Compiled &TFCellStyle::compiled(int cellCount)
@@ -108,15 +134,13 @@ TFCellStyle::Compiled TFCellStyle::compile(int cellCount) const
 {
     Compiled script;
     QStringList parameters;
-    if (!m_seesAll) {
-        const QHash<QString, int> cells = published(cellCount);
-        const QStringList names = namesIn(m_expression);
-        for (const QString &name : names) {
-            if (!cells.contains(name))
-                continue;
-            parameters.append(name);
-            script.cells.append(cells.value(name));
-        }
+    const QHash<QString, int> cells = published(cellCount);
+    const QStringList names = namesIn(m_expression);
+    for (const QString &name : names) {
+        if (!cells.contains(name))
+            continue;
+        parameters.append(name);
+        script.cells.append(cells.value(name));
     }
     const QString source = QStringLiteral("(function(%1){return (").arg(parameters.join(QLatin1Char(','))) +
                            m_expression + QStringLiteral(")})");
@@ -131,12 +155,4 @@ QHash<QString, int> TFCellStyle::published(int cellCount) const
     for (int i = 0; i < cellCount - 1; ++i)
         cells.insert(QLatin1Char('$') + m_fieldNames.value(i), i);
     return cells;
-}
-
-void TFCellStyle::publishAll(const TFRowStore &rows, int row) const
-{
-    QJSValue global = TFStyleEngine::engine()->globalObject();
-    const QHash<QString, int> cells = published(rows.cellCount(row));
-    for (auto cell = cells.begin(); cell != cells.end(); ++cell)
-        global.setProperty(cell.key(), rows.value(row, cell.value()).toString());
 }

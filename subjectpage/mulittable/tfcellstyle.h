@@ -22,7 +22,8 @@ void publishSkin(const QString &skinId);
 ///
 /// The expression sees each cell of the row but the last as text under "$" + field name of its column, and
 /// the skin as "$skin". It is a script expression, or a function without arguments that gives the value. It
-/// is compiled once with only those cells as arguments that it names. A script that does not end is
+/// is compiled once with only those cells as arguments that it names; one that can reach cells by other means
+/// is evaluated anew for each row, with all cells as globals. A script that does not end is
 /// interrupted, told once in the log, and not evaluated again. Not re-entrant.
 class TFCellStyle
 {
@@ -43,12 +44,13 @@ private:
     Compiled &compiled(int cellCount);
     Compiled compile(int cellCount) const;
     QJSValue evaluate(const TFRowStore &rows, int row);
-    void publishAll(const TFRowStore &rows, int row) const;
+    QJSValue call(const TFRowStore &rows, int row);
+    QJSValue evaluateAnew(const TFRowStore &rows, int row) const;
     QHash<QString, int> published(int cellCount) const;
 
     QString m_expression;
     QVector<QString> m_fieldNames;
     QHash<int, Compiled> m_compiled; ///< by the number of cells of the row
-    bool m_seesAll = false;          ///< names its cells in a way that only the run can tell
+    bool m_needsGlobals = false;
     bool m_endless = false;
 };

@@ -1,17 +1,21 @@
 #include "subjecttest.h"
 #include "testhost.h"
 
+#include "mulittable/tfcellstyle.h"
 #include "mulittable/tfheaderdatastruct.h"
 #include "mulittable/tfsubjecttablemodel.h"
 #include "mulittable/tfunits.h"
+#include "records/tfrowstore.h"
 #include "tfcore/tfcore.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
 #include <QElapsedTimer>
+#include <QJSEngine>
 #include <QSignalSpy>
 
 #include <memory>
+#include <random>
 
 using Cell = TFTableModelData::tagCellValue;
 
@@ -43,6 +47,7 @@ private slots:
     void alignmentIsThatOfTheCellOrItsType();
     void expressionColoursTheText_data();
     void expressionColoursTheText();
+    void compiledExpressionEqualsTheEvaluatedOne();
     void lastCellIsHiddenFromExpressions();
     void skinChangeReachesExpressions();
     void endlessExpressionIsInterruptedOnce();
@@ -253,6 +258,59 @@ void TableModelTest::expressionColoursTheText()
 
     QCOMPARE(this->colour(0, 0), colour);
     QVERIFY(this->colour(0, 1).isEmpty());
+}
+
+void TableModelTest::compiledExpressionEqualsTheEvaluatedOne()
+{
+    const QStringList pieces = {"$A",         "$B",
+                                "$C",         "$名",
+                                "$",          "$skin",
+                                "'red'",      "'blue'",
+                                " + ",        " > ",
+                                " ? ",        " : ",
+                                "(",          ")",
+                                "1",          "this.",
+                                "eval('$A')", "typeof ",
+                                ", ",         "function(){return $B}",
+                                "() => $C",   "\\u0024A",
+                                "$A = ",      "x",
+                                "; ",         "arguments.length",
+                                ".length",    "'$use_default_color'",
+                                "null",       " || ",
+                                "!",          "//",
+                                "-",          "throw "};
+    const QStringList values = {"", "red", "5", "-1.5", "#123456", "none", "'"};
+    const QVector<QString> fields = {"A", "B", "名", "C", "LAST"};
+    std::mt19937 random(11);
+    const auto pick = [&random](const QStringList &texts) {
+        return texts.at(int(random() % unsigned(texts.size())));
+    };
+    QJSEngine script;
+    script.globalObject().setProperty("$skin", TFCore::instance()->getCurrentSkinId());
+    int coloured = 0;
+    for (int round = 0; round < 5000; ++round) {
+        QString expression = random() % 2 ? "$A > $B ? 'red' : " : "";
+        for (unsigned i = 0; i < 1 + random() % 6; ++i)
+            expression += pick(pieces);
+        QList<QVariant> cells;
+        for (unsigned i = 0; i < 5; ++i)
+            cells.append(pick(values));
+        const TFRowStore store = TFRowStore::fromRows({row(cells)});
+        for (int i = 0; i < 4; ++i)
+            script.globalObject().setProperty("$" + fields.at(i), cells.at(i).toString());
+        QJSValue told = script.evaluate("(" + expression + ")", QString(), 1);
+        if (told.isCallable())
+            told = told.call();
+        const bool isColour =
+            told.isString() && !told.toString().isEmpty() && told.toString() != "$use_default_color";
+
+        const QVariant colour = TFCellStyle(expression, fields).colour(store, 0);
+
+        QVERIFY2(colour == (isColour ? QVariant(QColor(told.toString())) : QVariant()),
+                 qPrintable(expression));
+        coloured += isColour;
+    }
+    QVERIFY2(coloured > 300, qPrintable(QString::number(coloured)));
 }
 
 void TableModelTest::lastCellIsHiddenFromExpressions()
