@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rowsource.h"
+#include "topic.h"
 
 #include <QMap>
 #include <QSet>
@@ -14,9 +15,8 @@ public:
     /// Reads the files of \a folder, each of which may be missing. A file with a fault is left out.
     void load(const QString &folder, Database &database, QStringList *faults);
 
-    /// Rows of a topic's tree as JSON objects joined by commas, the root's row first; empty for an unknown
-    /// code.
-    QByteArray topicRows(qint64 code) const { return m_topics.value(code); }
+    /// The topic of that code; empty for an unknown one.
+    Topic topic(qint64 code) const { return m_topics.value(code); }
     QList<qint64> topicCodes() const { return m_topics.keys(); }
 
     /// Views that the trees name.
@@ -30,7 +30,7 @@ public:
     QStringList listNames() const { return m_lists.keys(); }
 
 private:
-    QMap<qint64, QByteArray> m_topics;
+    QMap<qint64, Topic> m_topics;
     QSet<qint64> m_namedViews;
     RowSource m_blocks;
     RowSource m_constants;

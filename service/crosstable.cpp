@@ -199,11 +199,15 @@ QByteArray pageOf(const std::vector<Group> &groups, const std::optional<Page> &p
 
 } // namespace
 
-Result<CrossRows> crossRows(const ServedView &view, Cursor &cells, const std::optional<Page> &page)
+Result<CrossRows> crossRows(const ServedView &view, Cursor &cells, const std::optional<Page> &page,
+                            qint64 limit)
 {
     Pivot pivot(view);
-    while (cells.next())
+    for (qint64 count = 1; cells.next(); ++count) {
+        if (count > limit)
+            return Refusal{400, QStringLiteral("filter: more than %1 cells; narrow it").arg(limit)};
         pivot.add(cells);
+    }
     if (!cells.isGood())
         return Database::fault();
     const bool isDescending = view.document.properties.value(QLatin1String("IsCrossSortByDesc")).toBool();

@@ -19,6 +19,8 @@ struct CrossRows
 };
 
 /// Turns cells, ordered so that the order of their groups is that of first appearance, into rows.
-Result<CrossRows> crossRows(const ServedView &view, Cursor &cells, const std::optional<Page> &page);
+/// Refuses more than \a limit cells.
+Result<CrossRows> crossRows(const ServedView &view, Cursor &cells, const std::optional<Page> &page,
+                            qint64 limit);
 
 } // namespace service

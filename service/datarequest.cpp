@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cmath>
 
 namespace service {
@@ -12,7 +13,6 @@ namespace service {
 namespace {
 
 const int MaxNesting = 16;
-const int MaxPageSize = 100000;
 const int MaxBlocks = 10000;
 
 const QLatin1String ViewKey("obj_vw_id");
@@ -63,14 +63,14 @@ Result<int> readPositive(const QJsonObject &body, QLatin1String key, int fallbac
     return static_cast<int>(number.value());
 }
 
-Result<std::optional<Page>> readPage(const QJsonObject &body)
+Result<std::optional<Page>> readPage(const QJsonObject &body, int maxRows)
 {
     if (!body.contains(PageKey) && !body.contains(SizeKey))
         return std::optional<Page>();
     const Result<int> number = readPositive(body, PageKey, Page().number, INT_MAX);
     if (!number.ok())
         return number.refusal();
-    const Result<int> size = readPositive(body, SizeKey, Page().size, MaxPageSize);
+    const Result<int> size = readPositive(body, SizeKey, std::min(Page().size, maxRows), maxRows);
     if (!size.ok())
         return size.refusal();
     return std::optional<Page>(Page{number.value(), size.value()});
@@ -205,7 +205,7 @@ Result<QJsonObject> readFilterParams(const QJsonObject &body)
     return value.toObject();
 }
 
-Result<ViewRequest> readViewRequest(const QJsonObject &body)
+Result<ViewRequest> readViewRequest(const QJsonObject &body, int maxRows)
 {
     ViewRequest request;
     const Result<qint64> view = readWhole(body, ViewKey);
@@ -214,7 +214,7 @@ Result<ViewRequest> readViewRequest(const QJsonObject &body)
     const Result<qint64> flag = readWhole(body, FlagKey);
     if (!flag.ok() || flag.value() < 0 || flag.value() > 2)
         return refuse(FlagKey, QStringLiteral("expected 0, 1 or 2"));
-    const Result<std::optional<Page>> page = readPage(body);
+    const Result<std::optional<Page>> page = readPage(body, maxRows);
     if (!page.ok())
         return page.refusal();
     const Result<QString> filter = readFilterText(body);

@@ -36,8 +36,8 @@ struct ViewRequest
 /// The object that a request's body holds: well-formed, an object, not nested too deeply.
 Result<QJsonObject> readBody(const QByteArray &body);
 
-/// Reads a request for a view.
-Result<ViewRequest> readViewRequest(const QJsonObject &body);
+/// Reads a request for a view, with pages of at most \a maxRows rows.
+Result<ViewRequest> readViewRequest(const QJsonObject &body, int maxRows);
 
 /// The members `filter` and `filterParams` of any request.
 Result<QString> readFilterText(const QJsonObject &body);

@@ -9,7 +9,6 @@ namespace service {
 namespace {
 
 const int MaxLength = 64 * 1024;
-const int MaxNesting = 32;
 const int MaxConditions = 256;
 
 /// In the order of FilterOperator.
@@ -32,8 +31,9 @@ QString shown(const FilterToken &token)
 class Parser
 {
 public:
-    explicit Parser(const QString &text)
+    Parser(const QString &text, int depth)
         : m_lexer(text)
+        , m_depth(depth)
     {
         advance();
     }
@@ -78,8 +78,8 @@ private:
             condition();
             return;
         }
-        if (++m_nesting > MaxNesting)
-            return fail(QStringLiteral("more than %1 parentheses deep").arg(MaxNesting));
+        if (++m_nesting > m_depth)
+            return fail(QStringLiteral("more than %1 parentheses deep").arg(m_depth));
         advance();
         conjunction();
         if (isGood() && m_token.kind != FilterToken::Close)
@@ -143,6 +143,7 @@ private:
     }
 
     FilterLexer m_lexer;
+    const int m_depth;
     FilterToken m_token;
     FilterParse m_result;
     int m_nesting = 0;
@@ -150,7 +151,7 @@ private:
 
 } // namespace
 
-FilterParse parseFilter(const QString &text)
+FilterParse parseFilter(const QString &text, int depth)
 {
     if (text.size() > MaxLength) {
         FilterParse result;
@@ -158,7 +159,7 @@ FilterParse parseFilter(const QString &text)
         result.fault = QStringLiteral("longer than %1 characters").arg(MaxLength);
         return result;
     }
-    return Parser(text).run();
+    return Parser(text, depth).run();
 }
 
 QString operatorText(FilterOperator op)

@@ -48,9 +48,9 @@ struct FilterParse
 ///     condition = field operator ( ":" name | number | 'text' | [date] )
 ///     operator  = ">" | ">=" | "<" | "<=" | "==" | "!=" | "like" | "in" | "nin" | "&&"
 ///
-/// An empty text has no conditions. Length, nesting and count are limited, so any text is answered in short
-/// time.
-FilterParse parseFilter(const QString &text);
+/// An empty text has no conditions. Length, nesting (to \a depth parentheses) and count are limited, so any
+/// text is answered in short time.
+FilterParse parseFilter(const QString &text, int depth);
 
 /// The operator as it is written in a filter.
 QString operatorText(FilterOperator op);

@@ -229,9 +229,10 @@ private:
 
 } // namespace
 
-Result<BoundSql> filterCondition(const QString &filter, const QJsonObject &parameters, const Columns &columns)
+Result<BoundSql> filterCondition(const QString &filter, const QJsonObject &parameters, const Columns &columns,
+                                 int depth)
 {
-    const FilterParse parse = parseFilter(filter);
+    const FilterParse parse = parseFilter(filter, depth);
     if (!parse.fault.isEmpty())
         return Refusal{400, QStringLiteral("filter: position %1: %2").arg(parse.position).arg(parse.fault)};
     BoundSql whole;

@@ -1,75 +1,45 @@
 #include "httpserver.h"
 
 #include "categories.h"
+#include "compression.h"
+#include "connectionserver.h"
+#include "exchange.h"
 #include "requesthandler.h"
+#include "tokenstore.h"
 #include "workerpool.h"
-
-#include <QElapsedTimer>
-
-#include <httplib.h>
-
-#include <atomic>
-#include <chrono>
-#include <thread>
 
 namespace service {
 
 namespace {
 
-const std::size_t MaxBodyBytes = 1024 * 1024;
-const int KeepAliveSeconds = 2;
+const int MaxHeadBytes = 64 * 1024;
 const char TokenHeader[] = "kvt-token";
 const char UserHeader[] = "userId";
+const char ProductHeader[] = "prodId";
 
 // The charset is named on purpose: with the bare type the server library compresses every reply by itself,
-// which costs more than the query on a fast line.
-const char ContentType[] = "application/json;charset=utf-8";
+// however small it is.
+const char JsonType[] = "application/json;charset=utf-8";
+const char PlainType[] = "text/plain;charset=utf-8";
+const char MetricsType[] = "text/plain;version=0.0.4;charset=utf-8";
 
-/// The server library would share the port with any other program that asks for it.
-void takePortForOneself(socket_t socket)
+QString header(const httplib::Request &request, const char *name)
 {
-    const int on = 1;
-    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    return QString::fromStdString(request.get_header_value(name));
 }
 
-/// Adapts the pool to what the server library asks for.
-class TaskQueue : public httplib::TaskQueue
+void setBody(httplib::Response &response, const QByteArray &body, const char *type)
 {
-public:
-    TaskQueue(int threads, const QString &databaseFile)
-        : m_pool(threads, databaseFile)
-    {}
-    void enqueue(std::function<void()> job) override { m_pool.enqueue(std::move(job)); }
-    void shutdown() override { m_pool.shutdown(); }
-
-private:
-    WorkerPool m_pool;
-};
-
-void send(const Reply &reply, httplib::Response &response)
-{
-    response.status = reply.status;
-    response.set_content(reply.body.constData(), static_cast<std::size_t>(reply.body.size()), ContentType);
+    response.set_content(body.constData(), static_cast<std::size_t>(body.size()), type);
 }
 
-QString statusText(int status)
+ConnectionSettings connectionSettings(const ServerSettings &settings)
 {
-    switch (status) {
-    case 404:
-        return QStringLiteral("no such path; POST to /bas/subject/data or /bas/ds/data");
-    case 413:
-        return QStringLiteral("body: more than %1 bytes").arg(MaxBodyBytes);
-    default:
-        return QStringLiteral("the request is not understood");
-    }
-}
-
-void logAccess(const httplib::Request &request, const Reply &reply, qint64 microseconds)
-{
-    qCInfo(lcAccess).noquote().nospace()
-        << QString::fromStdString(request.get_header_value(UserHeader)) << ' '
-        << QString::fromStdString(request.path) << ' ' << reply.status << ' ' << reply.rows << " rows "
-        << reply.body.size() << " bytes " << microseconds / 1000.0 << " ms";
+    ConnectionSettings result;
+    result.connections = settings.connections;
+    result.keepAliveSeconds = settings.keepAliveSeconds;
+    result.requestBytes = settings.limits.bodyBytes + MaxHeadBytes;
+    return result;
 }
 
 } // namespace
@@ -77,62 +47,166 @@ void logAccess(const httplib::Request &request, const Reply &reply, qint64 micro
 class HttpServer::Private
 {
 public:
+    using Operation = Reply (RequestHandler::*)(const QByteArray &, const Identity &, Database &) const;
+
     Private(const ServerSettings &settings, const ViewLibrary &library)
         : settings(settings)
-        , handler(library)
+        , handler(library, settings.limits)
+        , pool(settings.threads, settings.databaseFile)
+        , server(connectionSettings(settings))
     {}
 
-    using Operation = Reply (RequestHandler::*)(const QByteArray &, Database &) const;
-
-    void route(const char *path, Operation operation)
-    {
-        server.Post(path, [this, operation](const httplib::Request &request, httplib::Response &response) {
-            QElapsedTimer timer;
-            timer.start();
-            const Reply reply = answer(request, operation);
-            send(reply, response);
-            logAccess(request, reply, timer.nsecsElapsed() / 1000);
-        });
-    }
-
-    Reply answer(const httplib::Request &request, Operation operation) const
-    {
-        if (settings.tokens.isActive() &&
-            !settings.tokens.accepts(QByteArray::fromStdString(request.get_header_value(TokenHeader))))
-            return RequestHandler::refusal({401, QStringLiteral("kvt-token: missing or not known")});
-        Database *database = WorkerPool::currentDatabase();
-        if (!database)
-            return RequestHandler::refusal(Database::fault());
-        const QByteArray body =
-            QByteArray::fromRawData(request.body.data(), static_cast<int>(request.body.size()));
-        qCDebug(lcAccess).noquote() << QString::fromStdString(request.path) << body;
-        return (handler.*operation)(body, *database);
-    }
+    void setUp();
+    void route(const char *path, Endpoint endpoint, Operation operation);
+    void send(const httplib::Request &request, const Reply &reply, httplib::Response &response) const;
+    Reply answer(const httplib::Request &request, Operation operation);
+    std::optional<Identity> identify(const httplib::Request &request) const;
+    QString statusText(int status) const;
+    void health(httplib::Response &response);
+    Gauges gauges() const;
 
     ServerSettings settings;
     RequestHandler handler;
-    httplib::Server server;
+    WorkerPool pool;
+    Metrics metrics;
+    ConnectionServer server;
     std::atomic<bool> ended{false};
 };
+
+void HttpServer::Private::setUp()
+{
+    server.set_payload_max_length(static_cast<std::size_t>(settings.limits.bodyBytes));
+    server.set_pre_routing_handler([](const httplib::Request &, httplib::Response &) {
+        Exchange::current().begin();
+        return httplib::Server::HandlerResponse::Unhandled;
+    });
+    route("/bas/subject/data", Endpoint::Subject, &RequestHandler::subjectData);
+    route("/bas/ds/data", Endpoint::Named, &RequestHandler::namedData);
+    server.Get("/healthz",
+               [this](const httplib::Request &, httplib::Response &response) { health(response); });
+    server.Get("/metrics", [this](const httplib::Request &, httplib::Response &response) {
+        setBody(response, metrics.text(gauges()), MetricsType);
+    });
+    server.set_error_handler([this](const httplib::Request &request, httplib::Response &response) {
+        if (response.body.empty())
+            send(request, RequestHandler::refusal({response.status, statusText(response.status)}), response);
+    });
+    server.set_logger([this](const httplib::Request &request, const httplib::Response &response) {
+        Exchange::current().finish(QString::fromStdString(request.path), response.status, metrics,
+                                   settings.accessLog.get());
+    });
+}
+
+void HttpServer::Private::route(const char *path, Endpoint endpoint, Operation operation)
+{
+    server.Post(path,
+                [this, endpoint, operation](const httplib::Request &request, httplib::Response &response) {
+                    Exchange &exchange = Exchange::current();
+                    exchange.endpoint = endpoint;
+                    const Reply reply = answer(request, operation);
+                    exchange.entry.target = reply.target;
+                    exchange.entry.rows = reply.rows;
+                    send(request, reply, response);
+                });
+}
+
+void HttpServer::Private::send(const httplib::Request &request, const Reply &reply,
+                               httplib::Response &response) const
+{
+    response.status = reply.status;
+    Exchange::current().entry.bytes = reply.body.size();
+    const bool isLarge = settings.gzipFrom > 0 && reply.body.size() >= settings.gzipFrom;
+    if (isLarge && acceptsGzip(QByteArray::fromStdString(request.get_header_value("Accept-Encoding")))) {
+        const QByteArray packed = gzipped(reply.body);
+        if (!packed.isEmpty()) {
+            response.set_header("Content-Encoding", "gzip");
+            response.set_header("Vary", "Accept-Encoding");
+            return setBody(response, packed, JsonType);
+        }
+    }
+    setBody(response, reply.body, JsonType);
+}
+
+/// Who asks. A token proves it; where none is asked for, the request's own word counts.
+std::optional<Identity> HttpServer::Private::identify(const httplib::Request &request) const
+{
+    Identity named;
+    named.user = header(request, UserHeader);
+    if (!settings.tokens) {
+        named.products.insert(header(request, ProductHeader));
+        return named;
+    }
+    std::optional<Identity> known =
+        settings.tokens->find(QByteArray::fromStdString(request.get_header_value(TokenHeader)));
+    if (known && known->user.isEmpty())
+        known->user = named.user;
+    return known;
+}
+
+Reply HttpServer::Private::answer(const httplib::Request &request, Operation operation)
+{
+    const std::optional<Identity> identity = identify(request);
+    if (!identity)
+        return RequestHandler::refusal({401, QStringLiteral("kvt-token: missing or not known")});
+    Exchange::current().entry.user = identity->user;
+    const QByteArray body =
+        QByteArray::fromRawData(request.body.data(), static_cast<int>(request.body.size()));
+    qCDebug(lcAccess).noquote() << QString::fromStdString(request.path) << body;
+    Reply reply;
+    const auto job = [&](Database *database) {
+        reply = database ? (handler.*operation)(body, *identity, *database)
+                         : RequestHandler::refusal(Database::fault());
+    };
+    if (!pool.run(job, std::chrono::seconds(settings.limits.seconds)))
+        return RequestHandler::refusal(
+            {503, QStringLiteral("the service is busy: no worker was free for %1 s")
+                      .arg(settings.limits.seconds)});
+    return reply;
+}
+
+QString HttpServer::Private::statusText(int status) const
+{
+    switch (status) {
+    case 404:
+        return QStringLiteral("no such path; POST to /bas/subject/data or /bas/ds/data");
+    case 413:
+        return QStringLiteral("body: more than %1 bytes").arg(settings.limits.bodyBytes);
+    case 500:
+        return QStringLiteral("the service failed");
+    default:
+        return QStringLiteral("the request is not understood");
+    }
+}
+
+void HttpServer::Private::health(httplib::Response &response)
+{
+    bool isGood = false;
+    const auto job = [&isGood](Database *database) {
+        isGood = database && database->select({QStringLiteral("SELECT 1"), {}}).ok();
+    };
+    const bool isFree = pool.run(job, std::chrono::seconds(settings.limits.seconds));
+    response.status = isGood ? 200 : 503;
+    setBody(response,
+            isGood   ? "ok\n"
+            : isFree ? "the database does not answer\n"
+                     : "no worker is free\n",
+            PlainType);
+}
+
+Gauges HttpServer::Private::gauges() const
+{
+    Gauges result;
+    result.connections = server.openConnections();
+    result.workers = pool.size();
+    result.workersBusy = pool.busy();
+    result.requestsWaiting = pool.waiting();
+    return result;
+}
 
 HttpServer::HttpServer(const ServerSettings &settings, const ViewLibrary &library)
     : d(std::make_unique<Private>(settings, library))
 {
-    httplib::Server &server = d->server;
-    server.new_task_queue = [settings] { return new TaskQueue(settings.threads, settings.databaseFile); };
-    server.set_payload_max_length(MaxBodyBytes);
-    // Head and body go out in two writes; without this the second waits for the client's acknowledgement.
-    server.set_tcp_nodelay(true);
-    server.set_keep_alive_max_count(1000);
-    // A client that keeps its connection holds a thread until it speaks again.
-    server.set_keep_alive_timeout(KeepAliveSeconds);
-    server.set_socket_options(takePortForOneself);
-    d->route("/bas/subject/data", &RequestHandler::subjectData);
-    d->route("/bas/ds/data", &RequestHandler::namedData);
-    server.set_error_handler([](const httplib::Request &, httplib::Response &response) {
-        if (response.body.empty())
-            send(RequestHandler::refusal({response.status, statusText(response.status)}), response);
-    });
+    d->setUp();
 }
 
 HttpServer::~HttpServer() = default;
@@ -140,9 +214,14 @@ HttpServer::~HttpServer() = default;
 int HttpServer::bind()
 {
     const std::string host = d->settings.host.toStdString();
-    if (d->settings.port == 0)
-        return std::max(0, d->server.bind_to_any_port(host));
-    return d->server.bind_to_port(host, d->settings.port) ? d->settings.port : 0;
+    int port = d->settings.port;
+    if (port == 0)
+        port = std::max(0, d->server.bind_to_any_port(host));
+    else if (!d->server.bind_to_port(host, port))
+        port = 0;
+    if (port != 0)
+        d->server.widenBacklog();
+    return port;
 }
 
 void HttpServer::serve()
@@ -156,6 +235,7 @@ void HttpServer::stop()
     // The server library forgets a stop that comes before it has begun to listen.
     while (!d->server.is_running() && !d->ended)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    d->server.endConnections();
     d->server.stop();
 }
 

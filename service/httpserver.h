@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tokenfile.h"
+#include "servicelimits.h"
 
 #include <QString>
 
@@ -8,19 +8,26 @@
 
 namespace service {
 
+class AccessLog;
+class TokenStore;
 class ViewLibrary;
 
-/// How the service is to listen.
+/// How the service is to listen and to serve.
 struct ServerSettings
 {
     QString host = QStringLiteral("127.0.0.1");
-    int port = 0; ///< 0 is any free port
-    int threads = 32;
+    int port = 0;          ///< 0 is any free port
+    int threads = 16;      ///< workers that query, each with a database connection
+    int connections = 512; ///< of clients, served at once
+    int keepAliveSeconds = 15;
+    int gzipFrom = 16384; ///< bytes of a reply from which on it is compressed for who asks; 0 is never
+    Limits limits;
     QString databaseFile;
-    TokenFile tokens;
+    std::shared_ptr<TokenStore> tokens; ///< null: everybody is served
+    std::shared_ptr<AccessLog> accessLog;
 };
 
-/// The two endpoints over HTTP.
+/// The two endpoints over HTTP, with `/healthz` and `/metrics` beside them.
 class HttpServer
 {
 public:

@@ -40,10 +40,10 @@ public:
     {
         const QJsonObject topic = checkedObject(value, topicRules(), place);
         const qint64 code = takeCode(topic, place);
-        m_rows.clear();
+        m_topic = Topic();
         appendRow(code, 0, 0, TopicNode, topic.value(QLatin1String("name")).toString(), 0, QString());
         nodes(topic, code, 1, place);
-        m_navigation->topics.insert(code, m_rows);
+        m_navigation->topics.insert(code, m_topic);
     }
 
 private:
@@ -85,18 +85,22 @@ private:
     void appendRow(qint64 code, qint64 parent, int level, NodeType type, const QString &caption, qint64 view,
                    const QString &url)
     {
-        const QJsonObject row{{QStringLiteral("NODE_CODE"), code},   {QStringLiteral("P_NODE_CODE"), parent},
-                              {QStringLiteral("LEVEL"), level},      {QStringLiteral("NODE_TYP"), type},
-                              {QStringLiteral("NODE_CAP"), caption}, {QStringLiteral("OBJ_VW_ID"), view},
-                              {QStringLiteral("NODE_URL"), url}};
-        if (!m_rows.isEmpty())
-            m_rows += ',';
-        m_rows += QJsonDocument(row).toJson(QJsonDocument::Compact);
+        QJsonObject row{{QStringLiteral("NODE_CODE"), code},   {QStringLiteral("P_NODE_CODE"), parent},
+                        {QStringLiteral("LEVEL"), level},      {QStringLiteral("NODE_TYP"), type},
+                        {QStringLiteral("NODE_CAP"), caption}, {QStringLiteral("OBJ_VW_ID"), view},
+                        {QStringLiteral("NODE_URL"), url}};
+        TopicRow entry{level, view, type == GroupNode, {}, {}};
+        entry.row = QJsonDocument(row).toJson(QJsonDocument::Compact);
+        if (entry.isGroup && view != 0) {
+            row.insert(QStringLiteral("OBJ_VW_ID"), 0);
+            entry.bareRow = QJsonDocument(row).toJson(QJsonDocument::Compact);
+        }
+        m_topic.append(entry);
     }
 
     Navigation *m_navigation;
     QSet<qint64> m_codes;
-    QByteArray m_rows;
+    Topic m_topic;
 };
 
 } // namespace

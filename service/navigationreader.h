@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documentplace.h"
+#include "topic.h"
 
 #include <QMap>
 #include <QSet>
@@ -10,9 +11,8 @@ namespace service {
 /// The topics of `navigation.json` as the wire has them.
 struct Navigation
 {
-    QMap<qint64, QByteArray>
-        topics;         ///< rows by the topic's code: JSON objects joined by commas, the root first
-    QSet<qint64> views; ///< every view that a node names
+    QMap<qint64, Topic> topics; ///< by the topic's code
+    QSet<qint64> views;         ///< every view that a node names
 };
 
 Navigation readNavigation(const QJsonObject &object, const DocumentPlace &place);

@@ -13,6 +13,7 @@ namespace service {
 
 namespace {
 
+const int CellsPerRow = 10; // that a cross view may read, on average
 const char EnvelopeHead[] = "{\"state\":1,\"msg\":\"\",\"extend\":null,\"data\":";
 
 /// What `objId` of `/bas/ds/data` asks for.
@@ -20,7 +21,7 @@ enum NamedObject { NavigationObject = 38, BlockObject = 43, ConstantsObject = 39
 
 Reply reply(const QByteArray &data, qint64 rows = 0)
 {
-    return {200, EnvelopeHead + data + '}', rows};
+    return {200, EnvelopeHead + data + '}', rows, {}};
 }
 
 void appendSummaryItem(QByteArray &out, const char *item, qint64 value)
@@ -42,12 +43,6 @@ QByteArray summary(qint64 total, const std::optional<Page> &page)
     return out;
 }
 
-/// The configuration's members where the whole document is asked for, with a comma behind them.
-QByteArray configurationPart(const ServedView &view, ViewPart part)
-{
-    return part == ViewPart::Whole ? view.configuration + ',' : QByteArray();
-}
-
 /// Total of a paged data set. A page that is not full tells it; only else the database has to count.
 Result<qint64> totalRows(const RowSelect &select, const std::optional<Page> &page, qint64 rows,
                          Database &database)
@@ -59,7 +54,15 @@ Result<qint64> totalRows(const RowSelect &select, const std::optional<Page> &pag
     return database.count(select.matching);
 }
 
-Result<QByteArray> allRows(const BoundSql &sql, const Columns &columns, Database &database, qint64 *count)
+/// A refusal for a reply that would have more than \a limit rows.
+Refusal tooManyRows(int limit)
+{
+    return {400, QStringLiteral("size: more than %1 rows; ask for them page by page").arg(limit)};
+}
+
+/// The rows of \a sql, which asks for one row more than may be sent.
+Result<QByteArray> allRows(const BoundSql &sql, const Columns &columns, int limit, Database &database,
+                           qint64 *count)
 {
     Result<Cursor> cursor = database.select(sql);
     if (!cursor.ok())
@@ -68,6 +71,8 @@ Result<QByteArray> allRows(const BoundSql &sql, const Columns &columns, Database
     *count = RowWriter(columns).appendAll(data, cursor.value());
     if (!cursor.value().isGood())
         return Database::fault();
+    if (*count > limit)
+        return tooManyRows(limit);
     return data;
 }
 
@@ -85,103 +90,128 @@ Reply RequestHandler::refusal(const Refusal &refusal)
     return result;
 }
 
-Reply RequestHandler::subjectData(const QByteArray &body, Database &database) const
+namespace {
+
+Reply finished(const Result<Reply> &result, const QString &target)
 {
-    const Result<Reply> result = view(body, database);
-    return result.ok() ? result.value() : refusal(result.refusal());
+    Reply reply = result.ok() ? result.value() : RequestHandler::refusal(result.refusal());
+    reply.target = target;
+    return reply;
 }
 
-Reply RequestHandler::namedData(const QByteArray &body, Database &database) const
-{
-    const Result<Reply> result = named(body, database);
-    return result.ok() ? result.value() : refusal(result.refusal());
-}
+} // namespace
 
-Result<Reply> RequestHandler::view(const QByteArray &body, Database &database) const
+Reply RequestHandler::subjectData(const QByteArray &body, const Identity &identity, Database &database) const
 {
     const Result<QJsonObject> object = readBody(body);
     if (!object.ok())
-        return object.refusal();
-    const Result<ViewRequest> request = readViewRequest(object.value());
+        return refusal(object.refusal());
+    const Result<ViewRequest> request = readViewRequest(object.value(), m_limits.rows);
     if (!request.ok())
-        return request.refusal();
-    const ServedView *view = m_library.view(request.value().view);
-    if (!view)
-        return Refusal{400, QStringLiteral("obj_vw_id: no view %1").arg(request.value().view)};
-    if (request.value().part == ViewPart::Configuration)
-        return reply('{' + view->configuration + '}');
-    return rows(*view, request.value(), database);
+        return refusal(request.refusal());
+    return finished(view(request.value(), identity, database), QString::number(request.value().view));
+}
+
+Reply RequestHandler::namedData(const QByteArray &body, const Identity &identity, Database &database) const
+{
+    const Result<QJsonObject> object = readBody(body);
+    if (!object.ok())
+        return refusal(object.refusal());
+    const QString name = object.value().value(QLatin1String("objName")).toString();
+    if (!name.isEmpty())
+        return finished(list(name, object.value(), database), QStringLiteral("list ") + name);
+    const Result<qint64> id = readWhole(object.value(), QStringLiteral("objId"));
+    if (!id.ok())
+        return refusal(
+            {400, QStringLiteral("objId: expected a whole number, or objName with the name of a list")});
+    return finished(named(id.value(), object.value(), identity, database),
+                    QStringLiteral("object %1").arg(id.value()));
+}
+
+Result<Reply> RequestHandler::view(const ViewRequest &request, const Identity &identity,
+                                   Database &database) const
+{
+    const ServedView *view = m_library.view(request.view);
+    // A view that is kept from somebody must not be told from one that there is not.
+    if (!view || !identity.maySee(view->document.products))
+        return Refusal{400, QStringLiteral("obj_vw_id: no view %1").arg(request.view)};
+    if (request.part == ViewPart::Configuration)
+        return reply('{' + m_library.configuration(*view, identity) + '}');
+    return rows(*view, request, identity, database);
 }
 
 Result<Reply> RequestHandler::rows(const ServedView &view, const ViewRequest &request,
-                                   Database &database) const
+                                   const Identity &identity, Database &database) const
 {
-    const Result<RowSelect> select = selectRows(view, request);
+    // The configuration's members where the whole document is asked for.
+    const QByteArray head =
+        request.part == ViewPart::Whole ? m_library.configuration(view, identity) + ',' : QByteArray();
+    const Result<RowSelect> select = selectRows(view, request, m_limits.filterDepth);
     if (!select.ok())
         return select.refusal();
     if (view.document.cross.isSet())
-        return crossTable(view, request, select.value(), database);
+        return crossTable(view, request, select.value(), head, database);
     qint64 count = 0;
+    const Page wanted = request.page.value_or(Page{1, m_limits.rows + 1});
     const Result<QByteArray> data =
-        allRows(select.value().page(request.page), view.columns, database, &count);
+        allRows(select.value().page(wanted), view.columns, m_limits.rows, database, &count);
     if (!data.ok())
         return data.refusal();
     const Result<qint64> total = totalRows(select.value(), request.page, count, database);
     if (!total.ok())
         return total.refusal();
-    return reply('{' + configurationPart(view, request.part) + "\"Data\":" + data.value() + ',' +
-                     summary(total.value(), request.page) + "]}",
+    return reply('{' + head + "\"Data\":" + data.value() + ',' + summary(total.value(), request.page) + "]}",
                  count);
 }
 
 Result<Reply> RequestHandler::crossTable(const ServedView &view, const ViewRequest &request,
-                                         const RowSelect &select, Database &database) const
+                                         const RowSelect &select, const QByteArray &head,
+                                         Database &database) const
 {
     Result<Cursor> cells = database.select(select.page(std::nullopt));
     if (!cells.ok())
         return cells.refusal();
-    const Result<CrossRows> cross = crossRows(view, cells.value(), request.page);
+    const Result<CrossRows> cross =
+        crossRows(view, cells.value(), request.page, qint64(m_limits.rows) * CellsPerRow);
     if (!cross.ok())
         return cross.refusal();
-    QByteArray data = '{' + configurationPart(view, request.part) + "\"Data\":" + cross.value().data + ',' +
+    QByteArray data = '{' + head + "\"Data\":" + cross.value().data + ',' +
                       summary(cross.value().count, request.page) + ",{\"Item\":\"GridColumns\",\"value\":";
     json::appendUtf8(data, cross.value().gridColumns);
     return reply(data + "}]}", cross.value().count);
 }
 
-Result<Reply> RequestHandler::named(const QByteArray &body, Database &database) const
+Result<Reply> RequestHandler::list(const QString &name, const QJsonObject &body, Database &database) const
 {
-    const Result<QJsonObject> object = readBody(body);
-    if (!object.ok())
-        return object.refusal();
-    const QString name = object.value().value(QLatin1String("objName")).toString();
-    if (!name.isEmpty()) {
-        if (const RowSource *list = m_library.catalogue().list(name))
-            return filtered(*list, object.value(), database);
-        return Refusal{400, QStringLiteral("objName: no list \"%1\"").arg(name)};
-    }
-    const Result<qint64> id = readWhole(object.value(), QStringLiteral("objId"));
-    if (!id.ok())
-        return Refusal{400,
-                       QStringLiteral("objId: expected a whole number, or objName with the name of a list")};
-    switch (id.value()) {
+    if (const RowSource *list = m_library.catalogue().list(name))
+        return filtered(*list, body, database);
+    return Refusal{400, QStringLiteral("objName: no list \"%1\"").arg(name)};
+}
+
+Result<Reply> RequestHandler::named(qint64 id, const QJsonObject &body, const Identity &identity,
+                                    Database &database) const
+{
+    switch (id) {
     case NavigationObject:
-        return navigation(object.value(), database);
+        return navigation(body, identity, database);
     case BlockObject:
-        return filtered(m_library.catalogue().blocks(), object.value(), database);
+        return filtered(m_library.catalogue().blocks(), body, database);
     case ConstantsObject:
-        return filtered(m_library.catalogue().constants(), object.value(), database);
+        return filtered(m_library.catalogue().constants(), body, database);
     default:
-        return Refusal{400, QStringLiteral("objId: no object %1").arg(id.value())};
+        return Refusal{400, QStringLiteral("objId: no object %1").arg(id)};
     }
 }
 
-Result<Reply> RequestHandler::navigation(const QJsonObject &body, Database &database) const
+Result<Reply> RequestHandler::navigation(const QJsonObject &body, const Identity &identity,
+                                         Database &database) const
 {
     const Result<qint64> code = readWhole(body, QStringLiteral("P_NODE_CODE"));
     if (!code.ok())
         return code.refusal();
-    QByteArray nodes = m_library.catalogue().topicRows(code.value());
+    QByteArray nodes = m_library.catalogue().topic(code.value()).rows([this, &identity](qint64 view) {
+        return m_library.isVisible(view, identity);
+    });
     if (nodes.isEmpty())
         return Refusal{400, QStringLiteral("P_NODE_CODE: no topic %1").arg(code.value())};
     const RowSource &constants = m_library.catalogue().constants();
@@ -218,12 +248,14 @@ Result<Reply> RequestHandler::filtered(const RowSource &source, const QJsonObjec
     const Result<QJsonObject> parameters = readFilterParams(body);
     if (!parameters.ok())
         return parameters.refusal();
-    const Result<BoundSql> filter = filterCondition(text.value(), parameters.value(), source.columns);
+    const Result<BoundSql> filter =
+        filterCondition(text.value(), parameters.value(), source.columns, m_limits.filterDepth);
     if (!filter.ok())
         return filter.refusal();
+    BoundSql sql = restricted(source.sql, {filter.value()});
+    sql.append({QStringLiteral(" LIMIT ?"), {m_limits.rows + 1}});
     qint64 count = 0;
-    const Result<QByteArray> data =
-        allRows(restricted(source.sql, {filter.value()}), source.columns, database, &count);
+    const Result<QByteArray> data = allRows(sql, source.columns, m_limits.rows, database, &count);
     if (!data.ok())
         return data.refusal();
     return reply(data.value(), count);

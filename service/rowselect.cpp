@@ -114,7 +114,7 @@ BoundSql restricted(const BoundSql &base, const QVector<BoundSql> &conditions)
     return sql;
 }
 
-Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request)
+Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request, int filterDepth)
 {
     const ViewDocument &document = view.document;
     const QVector<OrderTerm> order = effectiveOrder(document, request.order);
@@ -126,7 +126,8 @@ Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request)
     const Result<QHash<QString, QVariant>> parameters = readParameters(document.params, request.body);
     if (!parameters.ok())
         return parameters.refusal();
-    const Result<BoundSql> filter = filterCondition(request.filter, request.filterParams, view.columns);
+    const Result<BoundSql> filter =
+        filterCondition(request.filter, request.filterParams, view.columns, filterDepth);
     if (!filter.ok())
         return filter.refusal();
     const BoundSql base = document.sql.bind(parameters.value());

@@ -14,7 +14,7 @@ struct RowSelect
 };
 
 /// Puts together the view's SQL, its parameters, the filter, the blocks and the order of \a request.
-Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request);
+Result<RowSelect> selectRows(const ServedView &view, const ViewRequest &request, int filterDepth);
 
 /// \a base restricted by \a conditions, of which empty ones count for nothing.
 BoundSql restricted(const BoundSql &base, const QVector<BoundSql> &conditions);

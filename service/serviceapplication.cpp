@@ -1,8 +1,10 @@
 #include "serviceapplication.h"
 
+#include "accesslog.h"
 #include "categories.h"
 #include "database.h"
-#include "httpserver.h"
+#include "serviceoptions.h"
+#include "tokenstore.h"
 #include "viewlibrary.h"
 
 #include <QCommandLineParser>
@@ -28,90 +30,53 @@ void say(FILE *stream, const QString &line)
     std::fflush(stream);
 }
 
-struct Options
-{
-    ServerSettings server;
-    QString views;
-    QString log;
-    bool checkOnly = false;
-    bool exitWithParent = false;
-};
-
-/// Reads the command line into \a options; a text that is not empty tells what is wrong with it.
-QString readOptions(const QCommandLineParser &parser, Options *options)
-{
-    for (const char *name : {"db", "views"}) {
-        if (!parser.isSet(QLatin1String(name)))
-            return QStringLiteral("option --%1 is required").arg(QLatin1String(name));
-    }
-    bool portIsGood = false;
-    bool threadsAreGood = false;
-    options->server.port = parser.value(QStringLiteral("port")).toUShort(&portIsGood);
-    options->server.threads = parser.value(QStringLiteral("threads")).toInt(&threadsAreGood);
-    if (!portIsGood)
-        return QStringLiteral("option --port takes a number from 0 to 65535");
-    if (!threadsAreGood || options->server.threads < 1 || options->server.threads > 256)
-        return QStringLiteral("option --threads takes a number from 1 to 256");
-    options->log = parser.value(QStringLiteral("log"));
-    if (!QStringList{QStringLiteral("quiet"), QStringLiteral("access"), QStringLiteral("debug")}.contains(
-            options->log))
-        return QStringLiteral("option --log takes quiet, access or debug");
-    options->server.host = parser.value(QStringLiteral("host"));
-    options->server.databaseFile = parser.value(QStringLiteral("db"));
-    options->views = parser.value(QStringLiteral("views"));
-    options->checkOnly = parser.isSet(QStringLiteral("check"));
-    options->exitWithParent = parser.isSet(QStringLiteral("exit-with-parent"));
-    QString fault;
-    if (parser.isSet(QStringLiteral("token-file")))
-        options->server.tokens.load(parser.value(QStringLiteral("token-file")), &fault);
-    return fault;
-}
-
-void addOptions(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(QStringLiteral("Serves views over a database to the subject pages."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({
-        {QStringLiteral("db"), QStringLiteral("SQLite file to read, or postgresql://user@host:port/name."),
-         QStringLiteral("database")},
-        {QStringLiteral("views"), QStringLiteral("Folder of the view documents."), QStringLiteral("folder")},
-        {QStringLiteral("port"), QStringLiteral("Port; 0 takes any that is free."), QStringLiteral("port"),
-         QStringLiteral("8080")},
-        {QStringLiteral("host"), QStringLiteral("Address to listen on."), QStringLiteral("address"),
-         QStringLiteral("127.0.0.1")},
-        {QStringLiteral("token-file"),
-         QStringLiteral("Serve only clients with one of these tokens, one a line."), QStringLiteral("file")},
-        {QStringLiteral("threads"), QStringLiteral("Requests that are served at once."),
-         QStringLiteral("count"), QStringLiteral("32")},
-        {QStringLiteral("log"), QStringLiteral("quiet: warnings only; access: a line a request; debug."),
-         QStringLiteral("level"), QStringLiteral("quiet")},
-        {QStringLiteral("check"), QStringLiteral("Check the view documents and end.")},
-        {QStringLiteral("exit-with-parent"),
-         QStringLiteral("End when the process ends that started this one.")},
-    });
-}
-
 void setLogLevel(const QString &level)
 {
     const QString info = level == QLatin1String("quiet") ? QStringLiteral("false") : QStringLiteral("true");
     const QString debug = level == QLatin1String("debug") ? QStringLiteral("true") : QStringLiteral("false");
     QLoggingCategory::setFilterRules(
-        QStringLiteral("subject.service.access.info=%1\nsubject.service.*.debug=%2").arg(info, debug));
+        QStringLiteral("subject.service.*.info=%1\nsubject.service.*.debug=%2").arg(info, debug));
 }
 
-/// Signals that end the service, blocked in all threads so that one waits for them.
-sigset_t blockEndSignals()
+/// Signals that steer the service, blocked in all threads so that one waits for them.
+sigset_t blockSignals()
 {
     sigset_t signalSet;
     sigemptyset(&signalSet);
     sigaddset(&signalSet, SIGTERM);
     sigaddset(&signalSet, SIGINT);
+    sigaddset(&signalSet, SIGHUP);
     pthread_sigmask(SIG_BLOCK, &signalSet, nullptr);
     return signalSet;
 }
 
-int serveUntilSignal(const Options &options, const ViewLibrary &library, const sigset_t &endSignals)
+/// SIGHUP is told to programs whose log was moved away; the others end the service.
+void waitForEnd(const ServiceOptions &options, const sigset_t &signalSet)
+{
+    int signal = 0;
+    while (sigwait(&signalSet, &signal) == 0 && signal == SIGHUP) {
+        if (options.server.accessLog)
+            options.server.accessLog->reopen();
+    }
+}
+
+/// Opens the files that the options name; a text that is not empty tells why that fails.
+QString openFiles(ServiceOptions *options)
+{
+    QString fault;
+    if (!options->tokenFile.isEmpty()) {
+        options->server.tokens = std::make_shared<TokenStore>();
+        if (!options->server.tokens->open(options->tokenFile, &fault))
+            return fault;
+    }
+    if (!options->accessLog.isEmpty()) {
+        options->server.accessLog = std::make_shared<AccessLog>();
+        options->server.accessLog->open(options->accessLog, &fault);
+    }
+    return fault;
+}
+
+int serveUntilSignal(const ServiceOptions &options, const ViewLibrary &library, const sigset_t &signalSet)
 {
     HttpServer server(options.server, library);
     const int port = server.bind();
@@ -122,14 +87,13 @@ int serveUntilSignal(const Options &options, const ViewLibrary &library, const s
     }
     std::thread serving([&server] { server.serve(); });
     say(stdout, QStringLiteral("listening on http://%1:%2").arg(options.server.host).arg(port));
-    int signal = 0;
-    sigwait(&endSignals, &signal);
+    waitForEnd(options, signalSet);
     server.stop();
     serving.join();
     return Served;
 }
 
-int run(const Options &options, const sigset_t &endSignals)
+int run(const ServiceOptions &options, const sigset_t &signalSet)
 {
     Database database(options.server.databaseFile);
     QString fault;
@@ -145,7 +109,7 @@ int run(const Options &options, const sigset_t &endSignals)
             QStringLiteral("%1 views, %2 faults").arg(library.viewCount()).arg(library.faults().size()));
         return library.faults().isEmpty() ? Served : Failed;
     }
-    return serveUntilSignal(options, library, endSignals);
+    return serveUntilSignal(options, library, signalSet);
 }
 
 } // namespace
@@ -153,9 +117,9 @@ int run(const Options &options, const sigset_t &endSignals)
 int runService(const QStringList &arguments)
 {
     const pid_t parent = getppid();
-    const sigset_t endSignals = blockEndSignals();
+    const sigset_t signalSet = blockSignals();
     QCommandLineParser parser;
-    addOptions(parser);
+    addServiceOptions(parser);
     if (!parser.parse(arguments)) {
         say(stderr, parser.errorText());
         return WrongUsage;
@@ -164,8 +128,10 @@ int runService(const QStringList &arguments)
         parser.showHelp();
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
-    Options options;
-    const QString fault = readOptions(parser, &options);
+    ServiceOptions options;
+    QString fault = readServiceOptions(parser, &options);
+    if (fault.isEmpty() && !options.checkOnly)
+        fault = openFiles(&options);
     if (!fault.isEmpty()) {
         say(stderr, fault);
         return WrongUsage;
@@ -181,7 +147,7 @@ int runService(const QStringList &arguments)
     // converts.
     if (!qEnvironmentVariableIsSet("TZ"))
         qputenv("TZ", ":/etc/localtime");
-    return run(options, endSignals);
+    return run(options, signalSet);
 }
 
 } // namespace service

@@ -1,27 +1,42 @@
 #pragma once
 
+#include "identity.h"
+
 #include <QByteArray>
-#include <QString>
 #include <QVector>
+
+#include <optional>
 
 namespace service {
 
-/// The tokens that may use the service: a file with one a line; blank lines and lines with "#" first are
-/// comments.
+/// The tokens that may use the service: a file in UTF-8, one token a line.
+///
+///     TOKEN [USER [PRODUCT[,PRODUCT...]]]
+///
+/// Words are parted by blanks. Blank lines and lines with "#" first are comments. Without a user (or with
+/// "-") the name comes from the request; "*" stands for all products; without products only what is not
+/// limited is seen.
 class TokenFile
 {
 public:
-    /// Reads the file. False, with the reason in \a fault, when it can't be read or holds no token.
+    /// Reads the file. False when it can't be read or has a fault, which \a fault then tells as
+    /// `FILE:LINE: what is wrong`; nothing changes then.
     bool load(const QString &path, QString *fault);
 
-    /// Whether \a token is among them. The time that this takes tells nothing about the tokens.
-    bool accepts(const QByteArray &token) const;
-
-    /// Whether tokens are asked for at all.
-    bool isActive() const { return !m_tokens.isEmpty(); }
+    /// Whose token it is, nothing for an unknown one. The time that this takes tells nothing about the
+    /// tokens.
+    std::optional<Identity> find(const QByteArray &token) const;
 
 private:
-    QVector<QByteArray> m_tokens;
+    struct Entry
+    {
+        QByteArray digest;
+        Identity identity;
+    };
+
+    QString addLine(const QByteArray &line);
+
+    QVector<Entry> m_entries;
 };
 
 } // namespace service

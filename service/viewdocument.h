@@ -51,6 +51,7 @@ struct ViewDocument
     qint64 id = 0;
     QString name;
     QString source;
+    QStringList products; ///< that may see it; empty for all
     SqlTemplate sql;
     QHash<QString, QVariant> params; ///< defaults by name
     QStringList key;

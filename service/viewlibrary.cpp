@@ -131,14 +131,35 @@ void ViewLibrary::checkNavigation()
         m_faults << QStringLiteral("navigation.json: no view %1 is served").arg(id);
 }
 
+const ViewDocument *ViewLibrary::document(qint64 id) const
+{
+    const ServedView *served = view(id);
+    return served ? &served->document : nullptr;
+}
+
 void ViewLibrary::packAll()
 {
-    const DocumentFinder find = [this](qint64 id) -> const ViewDocument * {
-        const ServedView *served = view(id);
-        return served ? &served->document : nullptr;
-    };
     for (auto &entry : m_views)
-        entry.second.configuration = packConfiguration(entry.second.document, find);
+        entry.second.configuration =
+            packConfiguration(entry.second.document, [this](qint64 id) { return document(id); });
+}
+
+bool ViewLibrary::isVisible(qint64 id, const Identity &identity) const
+{
+    const ViewDocument *found = document(id);
+    return !found || identity.maySee(found->products);
+}
+
+QByteArray ViewLibrary::configuration(const ServedView &view, const Identity &identity) const
+{
+    const QVector<ChildView> &children = view.document.childViews;
+    const auto isHidden = [&](const ChildView &child) { return !isVisible(child.view, identity); };
+    if (std::none_of(children.begin(), children.end(), isHidden))
+        return view.configuration;
+    ViewDocument seen = view.document;
+    seen.childViews.erase(std::remove_if(seen.childViews.begin(), seen.childViews.end(), isHidden),
+                          seen.childViews.end());
+    return packConfiguration(seen, [this](qint64 child) { return document(child); });
 }
 
 } // namespace service

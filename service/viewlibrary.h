@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 #include "columns.h"
+#include "identity.h"
 #include "viewdocument.h"
 
 #include <map>
@@ -13,7 +14,7 @@ struct ServedView
 {
     ViewDocument document;
     Columns columns;          ///< output columns of its SQL
-    QByteArray configuration; ///< packed, see packConfiguration()
+    QByteArray configuration; ///< packed, see packConfiguration(), with all child views
     QString file;             ///< relative to the folder of the documents
 };
 
@@ -27,6 +28,13 @@ public:
 
     /// The view of that identifier, null if there is none.
     const ServedView *view(qint64 id) const;
+
+    /// Whether \a identity may see the view; one that is not served hides nothing.
+    bool isVisible(qint64 id, const Identity &identity) const;
+
+    /// The packed configuration as \a identity may see it: without the child views that are kept from him.
+    QByteArray configuration(const ServedView &view, const Identity &identity) const;
+
     int viewCount() const { return static_cast<int>(m_views.size()); }
 
     const Catalogue &catalogue() const { return m_catalogue; }
@@ -38,6 +46,7 @@ private:
     void checkChildren();
     void checkNavigation();
     void packAll();
+    const ViewDocument *document(qint64 id) const;
 
     std::map<qint64, ServedView> m_views;
     Catalogue m_catalogue;

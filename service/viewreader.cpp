@@ -3,6 +3,8 @@
 #include "bandreader.h"
 #include "viewrules.h"
 
+#include <QRegularExpression>
+
 namespace service {
 
 namespace {
@@ -23,6 +25,23 @@ QJsonArray readFilters(const QJsonArray &array, const ViewDocument &view, const 
         filters << filter;
     }
     return filters;
+}
+
+/// The products that may see the view, as a text or a list; a view for nobody is a mistake.
+QStringList readProducts(const QJsonValue &value, const DocumentPlace &place)
+{
+    if (value.isUndefined())
+        return {};
+    const QStringList products = value.isString() ? QStringList{value.toString()} : texts(value, place);
+    if (products.isEmpty())
+        place.fault(QStringLiteral("expected a product at least; without the key all may see the view"));
+    static const QRegularExpression name(QStringLiteral("^[^\\s,*]+$"));
+    for (const QString &product : products) {
+        if (!name.match(product).hasMatch())
+            place.fault(
+                QStringLiteral("\"%1\" is no product's name: no blanks, commas or \"*\"").arg(product));
+    }
+    return products;
 }
 
 QVector<ChildView> readChildViews(const QJsonArray &array, const DocumentPlace &place)
@@ -192,6 +211,7 @@ ViewDocument readView(const QJsonObject &object, const DocumentPlace &place)
     view.id = static_cast<qint64>(value("id").toDouble());
     view.name = value("name").toString();
     view.source = value("source").toString();
+    view.products = readProducts(value("products"), at("products"));
     view.params = readParams(value("params").toObject(), at("params"));
     view.sql = readSql(value("sql"), view.params, at("sql"));
     view.key = readKey(value("key"), at("key"));

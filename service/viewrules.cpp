@@ -8,6 +8,7 @@ const MemberRules &view()
         {"id", MemberType::Whole, true},
         {"name", MemberType::Text, true},
         {"source"},
+        {"products", MemberType::Any},
         {"sql", MemberType::Any, true},
         {"params", MemberType::Object},
         {"key", MemberType::Any},

@@ -2,20 +2,42 @@
 
 #include "categories.h"
 
+#include <algorithm>
+#include <exception>
+#include <utility>
+
 namespace service {
 
-namespace {
-
-/// What a worker thread owns; lives on its stack.
-struct WorkerState
+/// A job on the stack of the thread that waits for it.
+struct WorkerPool::Task
 {
-    QString databaseFile;
-    std::unique_ptr<Database> database;
+    const Job &job;
+    std::condition_variable changed;
+    bool isTaken = false;
+    bool isDone = false;
+    std::exception_ptr exception;
 };
 
-thread_local WorkerState *t_state = nullptr;
+/// What a worker owns; lives on the stack of its thread.
+struct WorkerPool::Worker
+{
+    std::unique_ptr<Database> database;
+    std::condition_variable wake;
+    Task *task = nullptr;
 
-} // namespace
+    Database *connection(const QString &file)
+    {
+        if (database)
+            return database.get();
+        auto opened = std::make_unique<Database>(file);
+        QString fault;
+        if (opened->open(&fault))
+            database = std::move(opened);
+        else
+            qCWarning(lcDatabase).noquote() << fault;
+        return database.get();
+    }
+};
 
 WorkerPool::WorkerPool(int threads, const QString &databaseFile)
     : m_databaseFile(databaseFile)
@@ -26,60 +48,83 @@ WorkerPool::WorkerPool(int threads, const QString &databaseFile)
 
 WorkerPool::~WorkerPool()
 {
-    shutdown();
-}
-
-void WorkerPool::enqueue(std::function<void()> job)
-{
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_jobs.push_back(std::move(job));
-    }
-    m_wake.notify_one();
-}
-
-void WorkerPool::shutdown()
-{
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_ending = true;
+        for (Worker *worker : m_idle)
+            worker->wake.notify_one();
     }
-    m_wake.notify_all();
-    for (std::thread &thread : m_threads) {
-        if (thread.joinable())
-            thread.join();
-    }
+    for (std::thread &thread : m_threads)
+        thread.join();
 }
 
-Database *WorkerPool::currentDatabase()
+int WorkerPool::waiting() const
 {
-    if (t_state->database)
-        return t_state->database.get();
-    auto database = std::make_unique<Database>(t_state->databaseFile);
-    QString fault;
-    if (!database->open(&fault)) {
-        qCWarning(lcDatabase).noquote() << fault;
-        return nullptr;
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return static_cast<int>(m_waiting.size());
+}
+
+/// Gives \a task to a worker that is idle, or lets it wait.
+bool WorkerPool::hand(Task &task)
+{
+    if (m_idle.empty()) {
+        m_waiting.push_back(&task);
+        return false;
     }
-    t_state->database = std::move(database);
-    return t_state->database.get();
+    Worker *worker = m_idle.back();
+    m_idle.pop_back();
+    worker->task = &task;
+    task.isTaken = true;
+    worker->wake.notify_one();
+    return true;
+}
+
+bool WorkerPool::run(const Job &job, std::chrono::milliseconds patience)
+{
+    Task task{job, {}, false, false, nullptr};
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (!hand(task) && !task.changed.wait_for(lock, patience, [&task] { return task.isTaken; })) {
+        m_waiting.erase(std::find(m_waiting.begin(), m_waiting.end(), &task));
+        return false;
+    }
+    task.changed.wait(lock, [&task] { return task.isDone; });
+    if (task.exception)
+        std::rethrow_exception(task.exception);
+    return true;
+}
+
+/// The next task for \a worker, null at the end.
+WorkerPool::Task *WorkerPool::takeTask(Worker &worker, std::unique_lock<std::mutex> &lock)
+{
+    if (!m_waiting.empty()) {
+        Task *task = m_waiting.front();
+        m_waiting.pop_front();
+        task->isTaken = true;
+        task->changed.notify_one();
+        return task;
+    }
+    m_idle.push_back(&worker);
+    worker.wake.wait(lock, [this, &worker] { return worker.task || m_ending; });
+    return std::exchange(worker.task, nullptr);
 }
 
 void WorkerPool::work()
 {
-    WorkerState state{m_databaseFile, nullptr};
-    t_state = &state;
-    for (;;) {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        m_wake.wait(lock, [this] { return m_ending || !m_jobs.empty(); });
-        if (m_jobs.empty())
-            break;
-        const std::function<void()> job = std::move(m_jobs.front());
-        m_jobs.pop_front();
+    Worker worker;
+    std::unique_lock<std::mutex> lock(m_mutex);
+    while (Task *task = takeTask(worker, lock)) {
         lock.unlock();
-        job();
+        ++m_busy;
+        try {
+            task->job(worker.connection(m_databaseFile));
+        } catch (...) {
+            task->exception = std::current_exception();
+        }
+        --m_busy;
+        lock.lock();
+        task->isDone = true;
+        task->changed.notify_one();
     }
-    t_state = nullptr;
 }
 
 } // namespace service

@@ -88,7 +88,7 @@ void ServiceProcess::start(const Command &command)
     });
     m_patience.start();
     m_process->start(command.program, {"--db", command.database, "--views", command.views, "--port", "0",
-                                       "--exit-with-parent"});
+                                       "--gzip-from", "0", "--exit-with-parent"});
 }
 
 void ServiceProcess::stop()

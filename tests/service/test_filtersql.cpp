@@ -217,7 +217,7 @@ void TestFilterSql::anyTextIsAnswered()
             text += words.at(static_cast<int>((state >> 16) % static_cast<quint32>(words.size()))) +
                     QLatin1Char(' ');
         }
-        const FilterParse parse = parseFilter(text);
+        const FilterParse parse = parseFilter(text, Limits().filterDepth);
         QVERIFY(parse.fault.isEmpty() != (parse.position > 0));
         QVERIFY2(parse.fault.isEmpty() || parse.position <= text.size() + 1, qPrintable(text));
         understood += parse.fault.isEmpty() ? 1 : 0;

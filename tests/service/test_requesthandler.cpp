@@ -108,10 +108,10 @@ void TestRequestHandler::cleanup()
 
 QJsonObject TestRequestHandler::ask(const QByteArray &body, int status) const
 {
-    const RequestHandler handler(*m_library);
+    const RequestHandler handler(*m_library, Limits());
     const bool isNamed = body.contains("objId") || body.contains("objName");
-    const Reply reply =
-        isNamed ? handler.namedData(body, *m_database) : handler.subjectData(body, *m_database);
+    const Reply reply = isNamed ? handler.namedData(body, Identity(), *m_database)
+                                : handler.subjectData(body, Identity(), *m_database);
     const QJsonObject envelope = QJsonDocument::fromJson(reply.body).object();
     if (reply.status != status)
         qFatal("status %d: %s", reply.status, reply.body.constData());
@@ -174,7 +174,8 @@ void TestRequestHandler::rowsCarryTypedValues()
 {
     const QJsonObject request = object(
         "{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL in :S)', 'filterParams': {'S': ['S03', 'S05']}}");
-    const Reply reply = RequestHandler(*m_library).subjectData(QJsonDocument(request).toJson(), *m_database);
+    const Reply reply = RequestHandler(*m_library, Limits())
+                            .subjectData(QJsonDocument(request).toJson(), Identity(), *m_database);
 
     const QByteArray third =
         QByteArray::number(QDateTime(QDate(2020, 1, 3), QTime(15, 30)).toMSecsSinceEpoch());

@@ -1,74 +1,15 @@
+#include "runningservice.h"
 #include "servicefixture.h"
 #include "subjecttest.h"
 
-#include <QEventLoop>
-#include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QProcess>
 #include <QTcpSocket>
 
 #include <csignal>
 
 namespace {
 
-/// The real program on a free port.
-class RunningService
-{
-public:
-    RunningService(const ServiceFixture &fixture, const QStringList &more = {})
-    {
-        m_process.start(
-            QStringLiteral(SERVICE_PROGRAM),
-            QStringList{"--db", fixture.databaseFile(), "--views", fixture.viewFolder(), "--port", "0"} +
-                more);
-        while (!m_process.canReadLine() && m_process.waitForReadyRead(20000)) {
-        }
-        m_line = QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-
-    ~RunningService() { end(SIGKILL); }
-
-    QString line() const { return m_line; }
-    quint16 port() const { return static_cast<quint16>(QUrl(m_line.mid(13)).port(0)); }
-    QProcess &process() { return m_process; }
-
-    void end(int signal)
-    {
-        if (m_process.state() != QProcess::NotRunning)
-            ::kill(static_cast<pid_t>(m_process.processId()), signal);
-        m_process.waitForFinished(20000);
-    }
-
-private:
-    QProcess m_process;
-    QString m_line;
-};
-
-struct Answer
-{
-    int status = 0;
-    QByteArray body;
-    QJsonObject envelope() const { return QJsonDocument::fromJson(body).object(); }
-};
-
-Answer post(quint16 port, const QString &path, const QByteArray &body, const QByteArray &token = {})
-{
-    QNetworkAccessManager manager;
-    QNetworkRequest request(QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(port).arg(path)));
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    request.setRawHeader("userId", "tester");
-    if (!token.isEmpty())
-        request.setRawHeader("kvt-token", token);
-    QNetworkReply *reply = manager.post(request, body);
-    QEventLoop loop;
-    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    loop.exec();
-    return {reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll()};
-}
-
-const QString SubjectPath = QStringLiteral("/bas/subject/data");
-const QString NamedPath = QStringLiteral("/bas/ds/data");
 const QByteArray PageBody(R"({"obj_vw_id":10,"flag":1,"page":1,"size":2})");
 
 } // namespace
@@ -197,7 +138,7 @@ void TestSubjectService::tokensAreAskedForOnlyWithAFile()
 {
     QFile file(m_fixture->filePath(QStringLiteral("tokens")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("# comment\n\n  first \nsecond\n");
+    file.write("# comment\n\n  first \nsecond - *\n");
     file.close();
     RunningService service(*m_fixture, {"--token-file", file.fileName()});
 
@@ -242,7 +183,8 @@ void TestSubjectService::signalsEndItCleanly()
     QCOMPARE(service.process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(service.process().exitCode(), 0);
     const QByteArray log = service.process().readAllStandardError();
-    QVERIFY2(log.contains("tester /bas/subject/data 200 2 rows"), log.constData());
+    QVERIFY2(log.contains(R"("user":"tester","path":"/bas/subject/data","target":"10","rows":2,)"),
+             log.constData());
 }
 
 void TestSubjectService::endsWithTheProcessThatStartedIt()

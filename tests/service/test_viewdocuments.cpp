@@ -222,6 +222,8 @@ void TestViewDocuments::faultsNameFileAndPlace_data()
         "a/10.json / filters[1].FieldName: no column \"NOPE\"");
     row("childViews/0/link/S", QStringLiteral("NOPE"),
         "a/10.json / childViews[0].link.S: no column \"NOPE\"");
+    row("products", QJsonArray(), "a/10.json / products: expected a product at least");
+    row("products", QStringLiteral("a,b"), "a/10.json / products: \"a,b\" is no product's name");
     row("block", QStringLiteral("NOPE"), "a/10.json / block: no column \"NOPE\"");
     row("block", object("{'condition': 'SECTOR = 1'}"),
         "a/10.json / block.condition: the condition takes the one");
@@ -257,7 +259,7 @@ void TestViewDocuments::otherDocumentsAreServedBesideABadOne()
 
     QCOMPARE(library.viewCount(), 3);
     QVERIFY(library.catalogue().blocks().sql.text.isEmpty());
-    QVERIFY(!library.catalogue().topicRows(2).isEmpty());
+    QVERIFY(!library.catalogue().topic(2).isEmpty());
     QVERIFY(library.faults().contains(
         QStringLiteral("blocks.json / blocks[0].securityType: expected a whole number, found \"x\"")));
     QVERIFY(library.faults().contains(QStringLiteral("c/11.json / id: 11 is taken by a/b/11.json")));
