@@ -209,7 +209,7 @@ Result<CrossRows> crossRows(const ServedView &view, Cursor &cells, const std::op
         pivot.add(cells);
     }
     if (!cells.isGood())
-        return Database::fault();
+        return cells.refusal();
     const bool isDescending = view.document.properties.value(QLatin1String("IsCrossSortByDesc")).toBool();
     std::stable_sort(pivot.generated.begin(), pivot.generated.end(),
                      [isDescending](const GeneratedColumn &a, const GeneratedColumn &b) {

@@ -40,6 +40,11 @@ bool Cursor::next()
     return false;
 }
 
+Refusal Cursor::refusal() const
+{
+    return Database::refusalFor(m_rows->fault());
+}
+
 Database::Database(const QString &address)
     : m_connection(makeConnection(address))
 {}
@@ -54,13 +59,25 @@ Refusal Database::fault()
     return {500, QStringLiteral("the database failed; the log of the service tells more")};
 }
 
+Refusal Database::refusalFor(const DatabaseFault &fault)
+{
+    switch (fault.kind) {
+    case DatabaseFault::BadValue:
+        return {400, QStringLiteral("a value of the request is not of the form that its column holds")};
+    case DatabaseFault::TimedOut:
+        return {504,
+                QStringLiteral("the query took too long and was stopped; a narrower filter or fewer rows "
+                               "may help")};
+    default:
+        return Database::fault();
+    }
+}
+
 Refusal Database::report(const char *step, const DatabaseFault &fault, const QString &text)
 {
     m_lastFault = fault;
     qCWarning(lcDatabase).noquote() << step << fault.text << "statement:" << text;
-    if (fault.kind == DatabaseFault::BadValue)
-        return {400, QStringLiteral("a value of the request is not of the form that its column holds")};
-    return Database::fault();
+    return refusalFor(fault);
 }
 
 Result<Cursor> Database::select(const BoundSql &sql)
@@ -78,7 +95,7 @@ Result<QVariant> Database::singleValue(const BoundSql &sql)
     if (!cursor.ok())
         return cursor.refusal();
     if (!cursor.value().next())
-        return fault();
+        return cursor.value().refusal();
     const QVariant value = cursor.value().value(0);
     cursor.value().next();
     return value;

@@ -19,6 +19,9 @@ public:
     bool next();
     bool isGood() const { return m_good; }
 
+    /// The refusal for the fault that ended the rows.
+    Refusal refusal() const;
+
     QVariant value(int column) const { return m_rows->value(column); }
     QVector<StoredColumn> columns() const { return m_rows->columns(); }
 
@@ -41,7 +44,7 @@ public:
 
     /// Runs a SELECT; the cursor before has to be gone. A fault of the database is logged with the statement,
     /// and refused with a text that shows nothing of it: status 400 for a value that the statement can't
-    /// take, else 500.
+    /// take, 504 where the time limit ended it, else 500.
     Result<Cursor> select(const BoundSql &sql);
 
     /// Number of rows of \a sql. Remembered as long as nothing in the database has changed.
@@ -61,6 +64,7 @@ public:
 
 private:
     friend class Cursor;
+    static Refusal refusalFor(const DatabaseFault &fault);
     Refusal report(const char *step, const DatabaseFault &fault, const QString &text);
     void forgetCountsAfterChange();
     Result<QVariant> singleValue(const BoundSql &sql);

@@ -52,7 +52,7 @@ public:
     Private(const ServerSettings &settings, const ViewLibrary &library)
         : settings(settings)
         , handler(library, settings.limits)
-        , pool(settings.threads, settings.databaseFile)
+        , pool(settings.threads, settings.databaseFile, std::chrono::seconds(settings.limits.seconds))
         , server(connectionSettings(settings))
     {}
 
@@ -200,6 +200,7 @@ Gauges HttpServer::Private::gauges() const
     result.workers = pool.size();
     result.workersBusy = pool.busy();
     result.requestsWaiting = pool.waiting();
+    result.reconnects = pool.reconnects();
     return result;
 }
 

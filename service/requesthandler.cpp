@@ -70,7 +70,7 @@ Result<QByteArray> allRows(const BoundSql &sql, const Columns &columns, int limi
     QByteArray data;
     *count = RowWriter(columns).appendAll(data, cursor.value());
     if (!cursor.value().isGood())
-        return Database::fault();
+        return cursor.value().refusal();
     if (*count > limit)
         return tooManyRows(limit);
     return data;
@@ -233,7 +233,7 @@ Result<Reply> RequestHandler::navigation(const QJsonObject &body, const Identity
         nodes += '}';
     }
     if (!cursor.value().isGood())
-        return Database::fault();
+        return cursor.value().refusal();
     return reply('[' + nodes + ']');
 }
 

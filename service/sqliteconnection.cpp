@@ -2,6 +2,7 @@
 
 #include "sqldialect.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -11,6 +12,7 @@
 #include <algorithm>
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 namespace service {
 
@@ -50,6 +52,14 @@ private:
     std::unique_ptr<QSqlQuery> m_query;
 };
 
+/// What tells a file from another of the same name; 0 when there is none.
+quint64 inodeOf(const QString &file)
+{
+    struct stat status
+    {};
+    return ::stat(QFile::encodeName(file).constData(), &status) == 0 ? status.st_ino : 0;
+}
+
 int isOver(void *limit)
 {
     return static_cast<const RunLimit *>(limit)->state() == RunLimit::Running ? 0 : 1;
@@ -76,6 +86,7 @@ bool SqliteConnection::open(QString *fault)
         *fault = QStringLiteral("no database file %1").arg(m_file);
         return false;
     }
+    m_inode = inodeOf(m_file);
     m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name);
     m_database.setDatabaseName(m_file);
     m_database.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=5000"));
@@ -100,6 +111,13 @@ void SqliteConnection::watchLimit()
     if (qstrcmp(handle.typeName(), "sqlite3*") == 0)
         sqlite3_progress_handler(*static_cast<sqlite3 *const *>(handle.constData()), StepsBetweenLooks,
                                  isOver, &m_limit);
+}
+
+/// Whether another file has taken the name since. One that is merely gone is read on.
+bool SqliteConnection::isReplaced() const
+{
+    const quint64 inode = inodeOf(m_file);
+    return inode != 0 && inode != m_inode;
 }
 
 const SqlDialect &SqliteConnection::dialect() const
@@ -146,6 +164,10 @@ void SqliteConnection::giveBack(const QString &text, std::unique_ptr<QSqlQuery> 
 std::unique_ptr<RowStream> SqliteConnection::run(const BoundSql &sql, DatabaseFault *fault)
 {
     m_limit.begin();
+    if (isReplaced()) {
+        *fault = {DatabaseFault::Lost, QStringLiteral("the file %1 was replaced").arg(m_file)};
+        return nullptr;
+    }
     std::unique_ptr<QSqlQuery> query = prepared(sql.text, fault);
     if (!query)
         return nullptr;

@@ -30,10 +30,12 @@ public:
 private:
     std::unique_ptr<QSqlQuery> prepared(const QString &text, DatabaseFault *fault);
     void watchLimit();
+    bool isReplaced() const;
 
     QString m_file;
     QString m_name;
     QSqlDatabase m_database;
+    quint64 m_inode = 0;
     std::vector<std::pair<QString, std::unique_ptr<QSqlQuery>>> m_statements; ///< oldest first
 };
 

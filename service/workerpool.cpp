@@ -24,23 +24,11 @@ struct WorkerPool::Worker
     std::unique_ptr<Database> database;
     std::condition_variable wake;
     Task *task = nullptr;
-
-    Database *connection(const QString &file)
-    {
-        if (database)
-            return database.get();
-        auto opened = std::make_unique<Database>(file);
-        QString fault;
-        if (opened->open(&fault))
-            database = std::move(opened);
-        else
-            qCWarning(lcDatabase).noquote() << fault;
-        return database.get();
-    }
 };
 
-WorkerPool::WorkerPool(int threads, const QString &databaseFile)
-    : m_databaseFile(databaseFile)
+WorkerPool::WorkerPool(int threads, const QString &address, std::chrono::seconds timeLimit)
+    : m_address(address)
+    , m_timeLimit(timeLimit)
 {
     for (int i = 0; i < threads; ++i)
         m_threads.emplace_back([this] { work(); });
@@ -108,6 +96,39 @@ WorkerPool::Task *WorkerPool::takeTask(Worker &worker, std::unique_lock<std::mut
     return std::exchange(worker.task, nullptr);
 }
 
+Database *WorkerPool::connection(Worker &worker) const
+{
+    if (worker.database)
+        return worker.database.get();
+    auto database = std::make_unique<Database>(m_address);
+    QString fault;
+    if (database->open(&fault)) {
+        database->connection().setTimeLimit(m_timeLimit);
+        worker.database = std::move(database);
+    } else {
+        qCWarning(lcDatabase).noquote() << fault;
+    }
+    return worker.database.get();
+}
+
+void WorkerPool::carryOut(const Job &job, Worker &worker)
+{
+    const auto isLost = [&worker] {
+        return worker.database && worker.database->lastFault().kind == DatabaseFault::Lost;
+    };
+    job(connection(worker));
+    if (!isLost())
+        return;
+    // A server that was started anew has cut all connections; nobody needs to see that.
+    worker.database.reset();
+    if (!connection(worker))
+        return;
+    ++m_reconnects;
+    job(connection(worker));
+    if (isLost())
+        worker.database.reset();
+}
+
 void WorkerPool::work()
 {
     Worker worker;
@@ -116,7 +137,7 @@ void WorkerPool::work()
         lock.unlock();
         ++m_busy;
         try {
-            task->job(worker.connection(m_databaseFile));
+            carryOut(task->job, worker);
         } catch (...) {
             task->exception = std::current_exception();
         }

@@ -69,9 +69,11 @@ private slots:
     void aChangedTokenFileIsReadUnlessItIsBad();
     void aRequestBeyondALimitIsRefused_data();
     void aRequestBeyondALimitIsRefused();
+    void aSlowQueryIsStopped();
     void theLogHasALineForEachRequest();
     void metricsCountRequestsByOutcome();
     void healthFollowsTheDatabase();
+    void aReplacedDatabaseIsOpenedAnew();
     void largeRepliesAreCompressedForWhoAsks();
     void runningRequestsAreFinishedAtTheEnd();
 
@@ -194,6 +196,20 @@ void TestServiceGuards::aRequestBeyondALimitIsRefused()
     QVERIFY2(answer.body.contains(text), answer.body.constData());
 }
 
+void TestServiceGuards::aSlowQueryIsStopped()
+{
+    m_fixture->write(QStringLiteral("20.json"), countingView());
+    RunningService service(*m_fixture, {"--max-seconds", "1", "--threads", "1"});
+
+    const Answer slow = post(service.port(), SubjectPath, counting(1000000000));
+    const Answer quick = post(service.port(), SubjectPath, counting(7));
+
+    QCOMPARE(slow.status, 504);
+    QCOMPARE(slow.envelope().value(QStringLiteral("state")).toInt(), -504);
+    QVERIFY2(slow.body.contains("took too long and was stopped"), slow.body.constData());
+    QVERIFY2(quick.body.contains(R"("LAST":"7")"), quick.body.constData());
+}
+
 void TestServiceGuards::theLogHasALineForEachRequest()
 {
     const QString path = m_fixture->filePath(QStringLiteral("access.log"));
@@ -264,6 +280,24 @@ void TestServiceGuards::healthFollowsTheDatabase()
     QCOMPARE(good.status, 200);
     QCOMPARE(good.body, QByteArray("ok\n"));
     QCOMPARE(post(service.port(), SubjectPath, AllRows).status, 200);
+}
+
+void TestServiceGuards::aReplacedDatabaseIsOpenedAnew()
+{
+    RunningService service(*m_fixture, {"--threads", "1"});
+    QVERIFY(post(service.port(), SubjectPath, AllRows).body.contains("S12"));
+    const QString next = m_fixture->filePath(QStringLiteral("next"));
+    QVERIFY(QFile::copy(m_fixture->databaseFile(), next));
+    m_fixture->change({QStringLiteral("DELETE FROM price")});
+
+    QVERIFY(QFile::remove(m_fixture->databaseFile()));
+    QCOMPARE(post(service.port(), SubjectPath, AllRows).status, 200);
+    QVERIFY(QFile::rename(next, m_fixture->databaseFile()));
+
+    QVERIFY(post(service.port(), SubjectPath, AllRows).body.contains("S12"));
+    QCOMPARE(samples(get(service.port(), QStringLiteral("/metrics")).body)
+                 .value("subject_database_reconnects_total"),
+             1.0);
 }
 
 void TestServiceGuards::largeRepliesAreCompressedForWhoAsks()
