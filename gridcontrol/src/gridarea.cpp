@@ -4,6 +4,7 @@
 #include "gridfindbar.h"
 #include "gridheader.h"
 #include "gridpainter.h"
+#include "gridscrollbar.h"
 
 #include <gridcontrol/grid.h>
 
@@ -39,6 +40,8 @@ GridArea::GridArea(GridViewBase *view, QWidget *parent)
     , m_header(new GridHeader(this))
 {
     setFrameShape(NoFrame);
+    setVerticalScrollBar(new GridScrollBar(Qt::Vertical, this));
+    setHorizontalScrollBar(new GridScrollBar(Qt::Horizontal, this));
     setEditTriggers(NoEditTriggers);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);

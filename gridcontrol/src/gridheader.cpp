@@ -188,7 +188,7 @@ void GridHeader::paintCell(QPainter &painter, const HeaderCell &cell, const QRec
     else if (alignment & Qt::AlignHCenter)
         x = qMax(room.left(), room.left() + (room.width() - whole) / 2);
     painter.setPen(m_area->colors().headerText);
-    painter.drawStaticText(x, rect.top() + (rect.height() - m_texts.textHeight()) / 2, entry.text);
+    m_texts.draw(painter, x, rect.top() + (rect.height() - m_texts.textHeight()) / 2, entry);
     if (sorted)
         paintArrow(painter, QRectF(x + entry.width + 4, rect.center().y() - 2, 8, 5),
                    m_area->view()->sortState() == SortUp);

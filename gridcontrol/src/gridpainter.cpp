@@ -266,7 +266,7 @@ void GridPainter::drawText(const QRect &rect, const QString &text, Qt::Alignment
         return;
     const TextCache::Entry entry = m_area.texts().fitting(text, rect.width());
     const int top = rect.top() + (rect.height() - m_area.texts().textHeight() + 1) / 2;
-    m_painter.drawStaticText(alignedLeft(rect, entry.width, alignment), top, entry.text);
+    m_area.texts().draw(m_painter, alignedLeft(rect, entry.width, alignment), top, entry);
 }
 
 void GridPainter::paintLink(const QRect &rect, const QString &text, Qt::Alignment alignment, bool underlined)

@@ -35,78 +35,65 @@ void RowModel::setSource(QAbstractItemModel *source, const QModelIndex &root)
 
 void RowModel::connectSource()
 {
-    QAbstractItemModel *source = sourceModel();
-    const auto begin = [this] { beginResetModel(); };
-    const auto end = [this] {
-        rebuild();
-        endResetModel();
-        emit sourceColumnsChanged();
-    };
-    connect(source, &QAbstractItemModel::modelAboutToBeReset, this, begin);
-    connect(source, &QAbstractItemModel::modelReset, this, end);
-    connect(source, &QAbstractItemModel::layoutAboutToBeChanged, this, begin);
-    connect(source, &QAbstractItemModel::layoutChanged, this, end);
-    connect(source, &QAbstractItemModel::columnsAboutToBeInserted, this, begin);
-    connect(source, &QAbstractItemModel::columnsInserted, this, end);
-    connect(source, &QAbstractItemModel::columnsAboutToBeRemoved, this, begin);
-    connect(source, &QAbstractItemModel::columnsRemoved, this, end);
-    connect(source, &QAbstractItemModel::columnsAboutToBeMoved, this, begin);
-    connect(source, &QAbstractItemModel::columnsMoved, this, end);
-    connect(source, &QAbstractItemModel::rowsAboutToBeMoved, this, begin);
-    connect(source, &QAbstractItemModel::rowsMoved, this, end);
-    connect(source, &QObject::destroyed, this, [this] {
-        beginResetModel();
-        m_sort = {};
-        m_groupColumns.clear();
-        m_filter = nullptr;
-        m_order.setPlain(0);
-        m_columns = 0;
-        endResetModel();
-        emit sourceColumnsChanged();
+    using Model = QAbstractItemModel;
+    resetAround(&Model::modelAboutToBeReset, &Model::modelReset);
+    resetAround(&Model::layoutAboutToBeChanged, &Model::layoutChanged);
+    resetAround(&Model::columnsAboutToBeInserted, &Model::columnsInserted);
+    resetAround(&Model::columnsAboutToBeRemoved, &Model::columnsRemoved);
+    resetAround(&Model::columnsAboutToBeMoved, &Model::columnsMoved);
+    resetAround(&Model::rowsAboutToBeMoved, &Model::rowsMoved);
+    connectRows(&Model::rowsAboutToBeInserted, &Model::rowsInserted, &RowModel::beginInsertRows,
+                &RowModel::endInsertRows);
+    connectRows(&Model::rowsAboutToBeRemoved, &Model::rowsRemoved, &RowModel::beginRemoveRows,
+                &RowModel::endRemoveRows);
+    connect(sourceModel(), &Model::dataChanged, this, &RowModel::sourceDataChanged);
+    connect(sourceModel(), &Model::headerDataChanged, this, [this](Qt::Orientation side, int first, int last) {
+        if (m_columns != sourceModel()->columnCount(m_root))
+            resetFromSource();
+        else if (side == Qt::Horizontal && first <= last)
+            emit headerDataChanged(side, qMax(first, 0), qMin(last, m_columns - 1));
     });
-    connect(source, &QAbstractItemModel::dataChanged, this, &RowModel::sourceDataChanged);
-    connect(source, &QAbstractItemModel::headerDataChanged, this,
-            [this](Qt::Orientation side, int first, int last) {
-                if (m_columns != sourceModel()->columnCount(m_root))
-                    resetFromSource();
-                else if (side == Qt::Horizontal && first <= last)
-                    emit headerDataChanged(side, qMax(first, 0), qMin(last, m_columns - 1));
-            });
-    connectRows();
+    connect(sourceModel(), &QObject::destroyed, this, &RowModel::forgetSource);
 }
 
-void RowModel::connectRows()
+void RowModel::forgetSource()
 {
-    QAbstractItemModel *source = sourceModel();
-    connect(source, &QAbstractItemModel::rowsAboutToBeInserted, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (parent != m_root)
-                    return;
-                if (isArranged())
-                    beginResetModel();
-                else
-                    beginInsertRows(QModelIndex(), first, last);
-            });
-    connect(source, &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex &parent) {
-        if (parent != m_root)
-            return;
+    beginResetModel();
+    m_sort = {};
+    m_groupColumns.clear();
+    m_filter = nullptr;
+    m_order.setPlain(0);
+    m_columns = 0;
+    endResetModel();
+    emit sourceColumnsChanged();
+}
+
+template <typename Before, typename After> void RowModel::resetAround(Before before, After after)
+{
+    connect(sourceModel(), before, this, [this] { beginResetModel(); });
+    connect(sourceModel(), after, this, [this] {
         rebuild();
-        isArranged() ? endResetModel() : endInsertRows();
+        endResetModel();
+        emit sourceColumnsChanged();
     });
-    connect(source, &QAbstractItemModel::rowsAboutToBeRemoved, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (parent != m_root)
-                    return;
-                if (isArranged())
-                    beginResetModel();
-                else
-                    beginRemoveRows(QModelIndex(), first, last);
-            });
-    connect(source, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex &parent) {
+}
+
+template <typename Before, typename After>
+void RowModel::connectRows(Before before, After after, BeginRows begin, EndRows end)
+{
+    connect(sourceModel(), before, this, [this, begin](const QModelIndex &parent, int first, int last) {
+        if (parent != m_root)
+            return;
+        if (isArranged())
+            beginResetModel();
+        else
+            (this->*begin)(QModelIndex(), first, last);
+    });
+    connect(sourceModel(), after, this, [this, end](const QModelIndex &parent) {
         if (parent != m_root)
             return;
         rebuild();
-        isArranged() ? endResetModel() : endRemoveRows();
+        isArranged() ? endResetModel() : (this->*end)();
     });
 }
 

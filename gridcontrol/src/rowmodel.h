@@ -59,8 +59,16 @@ signals:
     void sourceColumnsChanged();
 
 private:
+    using BeginRows = void (RowModel::*)(const QModelIndex &parent, int first, int last);
+    using EndRows = void (RowModel::*)();
+
     void connectSource();
-    void connectRows();
+    void forgetSource();
+    /// Makes the lines anew when the source changes otherwise.
+    template <typename Before, typename After> void resetAround(Before before, After after);
+    /// Follows rows that come, or rows that go.
+    template <typename Before, typename After>
+    void connectRows(Before before, After after, BeginRows begin, EndRows end);
     void resetFromSource();
     void rebuild();
     GroupLevel groupLevel(int column, const std::vector<int> &ordered) const;

@@ -1,5 +1,6 @@
 #include "textcache.h"
 
+#include <QPainter>
 #include <QtMath>
 
 namespace Qtitan {
@@ -8,6 +9,7 @@ namespace {
 constexpr int generationSize = 4096;
 // No screen shows more of one line; laying out megabytes would stop the program.
 constexpr int longestText = 512;
+constexpr int longestFigures = 32;
 } // namespace
 
 template <typename Key, typename Value>
@@ -37,7 +39,9 @@ TextCache::TextCache(const QFont &font)
     : m_font(font)
     , m_metrics(font)
     , m_height(qCeil(m_metrics.height()))
-{}
+{
+    m_figures.setFont(font);
+}
 
 void TextCache::setFont(const QFont &font)
 {
@@ -46,12 +50,16 @@ void TextCache::setFont(const QFont &font)
     m_font = font;
     m_metrics = QFontMetricsF(font);
     m_height = qCeil(m_metrics.height());
+    m_figures.setFont(font);
     m_whole.clear();
     m_elided.clear();
 }
 
 TextCache::Entry TextCache::whole(const QString &text)
 {
+    const qreal figures = text.size() <= longestFigures ? m_figures.width(text) : -1;
+    if (figures >= 0)
+        return {QStaticText(), text, qCeil(figures), false};
     return m_whole.value(text, [&] {
         Entry entry;
         entry.text.setTextFormat(Qt::PlainText);
@@ -73,6 +81,14 @@ TextCache::Entry TextCache::fitting(const QString &text, int width)
     entry = whole(shorter);
     entry.elided = true;
     return entry;
+}
+
+void TextCache::draw(QPainter &painter, int left, int top, const Entry &entry)
+{
+    if (entry.figures.isEmpty())
+        painter.drawStaticText(left, top, entry.text);
+    else
+        m_figures.draw(painter, QPointF(left, top), entry.figures);
 }
 
 } // namespace Qtitan

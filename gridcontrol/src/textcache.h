@@ -1,5 +1,7 @@
 #pragma once
 
+#include "figurefont.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
@@ -7,7 +9,7 @@
 
 namespace Qtitan {
 
-/// Texts laid out once for one font.
+/// Texts laid out once for one font; figures are not laid out at all.
 ///
 /// Holds a bounded number of texts: when the newer half is full, what was not drawn since the last time falls
 /// out.
@@ -17,6 +19,7 @@ public:
     struct Entry
     {
         QStaticText text;
+        QString figures; ///< the text where it is made of figures alone
         int width = 0;
         bool elided = false;
     };
@@ -34,6 +37,9 @@ public:
     /// \a text, elided at its end where it is wider than \a width pixels.
     Entry fitting(const QString &text, int width);
 
+    /// Draws \a entry in the pen of \a painter, which has the font of this cache.
+    void draw(QPainter &painter, int left, int top, const Entry &entry);
+
 private:
     template <typename Key, typename Value> class Generations
     {
@@ -49,6 +55,7 @@ private:
     QFont m_font;
     QFontMetricsF m_metrics;
     int m_height;
+    FigureFont m_figures;
     Generations<QString, Entry> m_whole;
     Generations<QPair<QString, int>, QString> m_elided;
 };

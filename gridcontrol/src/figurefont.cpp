@@ -1,0 +1,54 @@
+#include "figurefont.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+namespace Qtitan {
+
+void FigureFont::setFont(const QFont &font)
+{
+    m_advances.fill(0);
+    m_run = QGlyphRun();
+    for (const char letter : "0123456789.,-+%/:()") {
+        QTextLayout layout(QString(QLatin1Char(letter)), font);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        const QList<QGlyphRun> runs = layout.glyphRuns();
+        // A sign that only a fallback font has is left to the layout.
+        if (letter == '\0' || runs.size() != 1 || runs.first().glyphIndexes().size() != 1 ||
+            (m_run.rawFont().isValid() && runs.first().rawFont() != m_run.rawFont()))
+            continue;
+        m_run.setRawFont(runs.first().rawFont());
+        m_ascent = line.ascent();
+        m_glyphs[std::size_t(letter)] = runs.first().glyphIndexes().first();
+        m_advances[std::size_t(letter)] = line.naturalTextWidth();
+    }
+}
+
+qreal FigureFont::width(const QString &text) const
+{
+    qreal width = 0;
+    for (const QChar letter : text) {
+        if (!holds(letter))
+            return -1;
+        width += m_advances[letter.unicode()];
+    }
+    return text.isEmpty() ? -1 : width;
+}
+
+void FigureFont::draw(QPainter &painter, const QPointF &place, const QString &text)
+{
+    m_indexes.resize(text.size());
+    m_positions.resize(text.size());
+    qreal x = 0;
+    for (int i = 0; i < text.size(); ++i) {
+        m_indexes[i] = m_glyphs[text.at(i).unicode()];
+        m_positions[i] = QPointF(x, 0);
+        x += m_advances[text.at(i).unicode()];
+    }
+    m_run.setRawData(m_indexes.constData(), m_positions.constData(), text.size());
+    painter.drawGlyphRun(place + QPointF(0, m_ascent), m_run);
+}
+
+} // namespace Qtitan
