@@ -66,6 +66,12 @@ void showPlain(Grid &grid, QuoteModel &model)
     setUpColumns(*grid.rootView());
 }
 
+const char *lightSheet()
+{
+    return "QWidget { background: #F3F5F8; color: #1F2733; }"
+           "Qtitan--Grid { qproperty-panelColor: #FFFFFF; qproperty-textColor: #1F2733; }";
+}
+
 const char *darkSheet()
 {
     return "QWidget { background: #080B10; color: #D7DEE8; }"

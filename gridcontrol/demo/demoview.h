@@ -11,5 +11,6 @@ void showBanded(Qtitan::Grid &grid, QuoteModel &model);
 /// The same columns side by side, without bands.
 void showPlain(Qtitan::Grid &grid, QuoteModel &model);
 
-/// Style sheet of the dark scheme of the demonstration.
+/// Style sheets of the two schemes of the demonstration.
+const char *lightSheet();
 const char *darkSheet();

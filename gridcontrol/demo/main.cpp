@@ -63,7 +63,7 @@ public:
                 });
     }
 
-    void setDark(bool on) { qApp->setStyleSheet(QString::fromLatin1(on ? darkSheet() : "")); }
+    void setDark(bool on) { qApp->setStyleSheet(QString::fromLatin1(on ? darkSheet() : lightSheet())); }
 
 private:
     QuoteModel m_model;
