@@ -2,6 +2,7 @@
 
 #include "gridarea.h"
 #include "gridmenu.h"
+#include "gridpainter.h"
 
 #include <gridcontrol/grid.h>
 
@@ -125,7 +126,7 @@ void GridHeader::paintEvent(QPaintEvent *event)
         painter.fillRect(QRect(0, stripHeight(), fixed, height()), m_area->colors().headerBackground);
         paintCells(painter, event->rect(), true);
     }
-    const qreal pixel = 1.0 / painter.device()->devicePixelRatioF();
+    const qreal pixel = GridPainter::devicePixel(painter);
     painter.fillRect(QRectF(0, height() - pixel, width(), pixel), m_area->colors().strongLine);
     if (m_drag == Moving && m_dropX >= 0 && m_dropAllowed)
         painter.fillRect(QRect(m_dropX - 1, stripHeight(), 2, height()), m_area->colors().accent);
@@ -146,7 +147,7 @@ void GridHeader::paintStrip(QPainter &painter) const
 
 void GridHeader::paintCells(QPainter &painter, const QRect &rect, bool fixed)
 {
-    const qreal pixel = 1.0 / painter.device()->devicePixelRatioF();
+    const qreal pixel = GridPainter::devicePixel(painter);
     for (const HeaderCell &cell : m_area->captions().cells()) {
         const QRect place = cellRect(cell);
         if (cell.fixed == fixed && place.intersects(rect))

@@ -44,7 +44,7 @@ QColor foregroundOf(const QModelIndex &index)
 GridPainter::GridPainter(GridArea &area, QPainter &painter)
     : m_area(area)
     , m_painter(painter)
-    , m_pixel(1.0 / painter.device()->devicePixelRatioF())
+    , m_pixel(devicePixel(painter))
     , m_offset(area.horizontalScrollBar()->value())
     , m_rowsSelected(area.selectsRows())
 {
@@ -358,6 +358,11 @@ void GridPainter::paintFocus()
     m_painter.fillRect(QRectF(frame.left(), frame.top(), 1, frame.height()), color);
     m_painter.fillRect(QRectF(frame.right() - 1, frame.top(), 1, frame.height()), color);
     m_painter.restore();
+}
+
+qreal GridPainter::devicePixel(const QPainter &painter)
+{
+    return 1.0 / painter.deviceTransform().m11();
 }
 
 QRect GridPainter::drawnTextRect(const QRect &rect, const QFont &font, const QString &text,

@@ -27,6 +27,9 @@ public:
 
     void paint(const QRegion &region);
 
+    /// Width of one pixel of what is painted on, in the painter's units.
+    static qreal devicePixel(const QPainter &painter);
+
     /// Where \a text comes to stand in \a rect.
     static QRect drawnTextRect(const QRect &rect, const QFont &font, const QString &text,
                                Qt::Alignment alignment);
@@ -60,7 +63,7 @@ private:
 
     GridArea &m_area;
     QPainter &m_painter;
-    qreal m_pixel; ///< one pixel of the device
+    qreal m_pixel;
     int m_offset;
     bool m_rowsSelected;
 };
