@@ -60,15 +60,19 @@ void AddressBar::focusAddress()
 
 void AddressBar::addScreens(QMenu *menu)
 {
-    insertAction(m_lineAction, menu->menuAction());
-    auto *button = qobject_cast<QToolButton *>(widgetForAction(menu->menuAction()));
-    button->setObjectName("ScreensButton");
-    button->setPopupMode(QToolButton::InstantPopup);
+    m_screens = new QToolButton;
+    m_screens->setObjectName("ScreensButton");
+    m_screens->setPopupMode(QToolButton::InstantPopup);
+    m_screens->setMenu(menu);
+    insertWidget(m_lineAction, m_screens);
+    retranslate();
 }
 
 void AddressBar::redraw()
 {
     m_skin->setIcon(Look::icon("skin"));
+    if (m_screens)
+        m_screens->setIcon(Look::icon("screen"));
     m_panelAction->setIcon(Look::icon("activity"));
 }
 
@@ -84,4 +88,6 @@ void AddressBar::retranslate()
     setWindowTitle(tr("Address"));
     m_line->setPlaceholderText(tr("Address of a page, view://..."));
     m_skin->setToolTip(tr("Skin"));
+    if (m_screens)
+        m_screens->setToolTip(tr("Composite screens"));
 }

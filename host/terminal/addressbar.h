@@ -10,7 +10,7 @@ class QMenu;
 class QToolButton;
 
 /// The line with the address of the current page and the most used commands. Object names: "AddressBar",
-/// "AddressLine", "SkinButton".
+/// "AddressLine", "ScreensButton", "SkinButton".
 class AddressBar : public QToolBar
 {
     Q_OBJECT
@@ -38,5 +38,6 @@ private:
     QLineEdit *m_line;
     QAction *m_lineAction;
     QToolButton *m_skin;
+    QToolButton *m_screens = nullptr;
     QAction *m_panelAction;
 };

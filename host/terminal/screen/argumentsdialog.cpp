@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTableView>
+#include <QToolButton>
 
 namespace {
 constexpr QSize FirstSize(520, 360);
@@ -49,17 +50,19 @@ ArgumentsDialog::ArgumentsDialog(const QVariantMap &args, const QStringList &pro
     , m_hint(named(new QLabel(tr("There are no global arguments yet.")), "ArgumentHint"))
     , m_add(named(new QPushButton(tr("Add")), "AddArgument"))
     , m_remove(named(new QPushButton(tr("Remove")), "RemoveArgument"))
-    , m_propose(named(new QPushButton(tr("View of a component")), "ProposeValue"))
+    , m_propose(named(new QToolButton, "ProposeValue"))
     , m_fault(named(new QLabel, "ArgumentFault"))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setObjectName("ArgumentsDialog");
     setWindowTitle(tr("Global arguments"));
     resize(FirstSize);
+    m_propose->setText(tr("View of a component"));
+    m_propose->setPopupMode(QToolButton::InstantPopup);
     m_propose->setToolTip(tr("Sets the argument to a view that a component of this screen shows"));
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
     m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("Cancel"));
-    for (QPushButton *button : {m_add, m_remove, m_propose})
+    for (QPushButton *button : {m_add, m_remove})
         button->setAutoDefault(false);
     layOut();
     fillProposals(proposals);

@@ -8,6 +8,7 @@ class QDialogButtonBox;
 class QLabel;
 class QPushButton;
 class QTableView;
+class QToolButton;
 
 /// Edits the global arguments of a screen, and lets one be chosen. Object names: "ArgumentsDialog",
 /// "ArgumentTable", "ArgumentHint", "AddArgument", "RemoveArgument", "ProposeValue", "ArgumentFault".
@@ -41,7 +42,7 @@ private:
     QLabel *m_hint;
     QPushButton *m_add;
     QPushButton *m_remove;
-    QPushButton *m_propose;
+    QToolButton *m_propose;
     QLabel *m_fault;
     QDialogButtonBox *m_buttons;
     bool m_isChoice = false;

@@ -10,11 +10,12 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTime>
+#include <QToolButton>
 
 namespace {
-QPushButton *makeButton(const char *name)
+template <typename Button> Button *makeButton(const char *name)
 {
-    auto *button = new QPushButton;
+    auto *button = new Button;
     button->setObjectName(name);
     // The keyboard stays with the component that has it.
     button->setFocusPolicy(Qt::NoFocus);
@@ -26,10 +27,10 @@ ScreenBar::ScreenBar(const ComponentCatalog *catalog, QWidget *parent)
     : QFrame(parent)
     , m_catalog(catalog)
     , m_name(new QLabel)
-    , m_add(makeButton("AddComponent"))
-    , m_arguments(makeButton("EditArguments"))
+    , m_add(makeButton<QToolButton>("AddComponent"))
+    , m_arguments(makeButton<QPushButton>("EditArguments"))
     , m_state(new QLabel)
-    , m_save(makeButton("SaveScreen"))
+    , m_save(makeButton<QPushButton>("SaveScreen"))
 {
     setObjectName("ScreenBar");
     m_name->setObjectName("ScreenName");
@@ -37,6 +38,7 @@ ScreenBar::ScreenBar(const ComponentCatalog *catalog, QWidget *parent)
     m_state->setObjectName("SaveState");
     auto *menu = new QMenu(m_add);
     m_add->setMenu(menu);
+    m_add->setPopupMode(QToolButton::InstantPopup);
     connect(menu, &QMenu::aboutToShow, this, [this, menu] {
         m_catalog->fill(menu, [this](const QByteArray &name) { emit addRequested(name); });
     });

@@ -5,6 +5,7 @@
 class ComponentCatalog;
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 /// The line over a composite screen: its name, its commands, and whether it is saved. Object names:
 /// "ScreenBar", "ScreenName", "AddComponent", "EditArguments", "SaveState", "SaveScreen".
@@ -35,7 +36,7 @@ private:
 
     const ComponentCatalog *m_catalog;
     QLabel *m_name;
-    QPushButton *m_add;
+    QToolButton *m_add;
     QPushButton *m_arguments;
     QLabel *m_state;
     QPushButton *m_save;

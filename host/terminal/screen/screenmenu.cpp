@@ -55,7 +55,6 @@ void ScreenMenu::listScreens()
 void ScreenMenu::retranslate()
 {
     setTitle(tr("&Composite screens"));
-    menuAction()->setToolTip(tr("Composite screens"));
     newScreen->setText(tr("&New screen"));
     save->setText(tr("&Save screen"));
     arguments->setText(tr("&Global arguments..."));
@@ -64,7 +63,6 @@ void ScreenMenu::retranslate()
 
 void ScreenMenu::redraw()
 {
-    menuAction()->setIcon(Look::icon("screen"));
     newScreen->setIcon(Look::icon("new-tab"));
     arguments->setIcon(Look::icon("settings"));
 }
