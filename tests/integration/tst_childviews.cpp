@@ -1,4 +1,4 @@
-#include "demodata.h"
+#include "loggedservice.h"
 #include "mainwindow.h"
 #include "options.h"
 #include "pagetab.h"
@@ -7,60 +7,10 @@
 
 #include "subjecttest.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 
 namespace {
 constexpr int PatienceMs = 20000;
-
-/// The data service as a program of its own, with all that it received.
-class LoggedService
-{
-public:
-    bool start()
-    {
-        m_process.setProcessChannelMode(QProcess::SeparateChannels);
-        m_process.start(PROJECT_BINARY_DIR "/bin/subject-service",
-                        {"--db", DemoData::database(), "--views", DemoData::views(), "--port", "0", "--log",
-                         "debug", "--exit-with-parent"});
-        while (!m_process.canReadLine()) {
-            if (!m_process.waitForReadyRead(PatienceMs))
-                return false;
-        }
-        m_address = QString::fromUtf8(m_process.readLine()).section("listening on ", 1).trimmed();
-        return !m_address.isEmpty();
-    }
-
-    ~LoggedService()
-    {
-        m_process.terminate();
-        m_process.waitForFinished();
-    }
-
-    QString address() const { return m_address; }
-
-    /// Bodies of the row requests for a view, oldest first.
-    QList<QJsonObject> rowRequests(int view)
-    {
-        m_log += m_process.readAllStandardError();
-        QList<QJsonObject> bodies;
-        for (const QByteArray &line : m_log.split('\n')) {
-            const int brace = line.indexOf('{');
-            const QJsonObject body = QJsonDocument::fromJson(line.mid(qMax(brace, 0))).object();
-            if (body.value("obj_vw_id").toInt() == view && body.value("flag").toInt() == 1)
-                bodies.append(body);
-        }
-        return bodies;
-    }
-
-private:
-    QProcess m_process;
-    QByteArray m_log;
-    QString m_address;
-};
 } // namespace
 
 /// What a selected row of the main table sends to its child views, as the service receives it.
@@ -99,7 +49,8 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!m_service->rowRequests(2604).isEmpty(), PatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(!m_service->rowRequests(2601).isEmpty(), PatienceMs);
         QTRY_VERIFY_WITH_TIMEOUT(mainGrid() && mainRows() > 2, PatienceMs);
-        QCOMPARE(boundValue(m_service->rowRequests(2601).last(), "SYMBOL"), textAt(0, "SYMBOL"));
+        QCOMPARE(LoggedService::boundValue(m_service->rowRequests(2601).last(), "SYMBOL"),
+                 textAt(0, "SYMBOL"));
 
         QTRY_VERIFY_WITH_TIMEOUT(nextRowReachedTheChild(), PatienceMs);
         const QJsonObject peers = m_service->rowRequests(2604).last();
@@ -156,19 +107,12 @@ private:
         QWidget *rows = mainGrid() ? focusableIn(mainGrid()) : nullptr;
         if (rows)
             QTest::keyClick(rows, Qt::Key_Down);
-        const QString asked = boundValue(m_service->rowRequests(2601).last(), "SYMBOL");
+        const QString asked = LoggedService::boundValue(m_service->rowRequests(2601).last(), "SYMBOL");
         for (int row = 1; row < mainRows(); ++row) {
             if (textAt(row, "SYMBOL") == asked)
                 return true;
         }
         return false;
-    }
-
-    /// The value bound to a field, whether it went as a condition or as a key of its own.
-    static QString boundValue(const QJsonObject &body, const QString &field)
-    {
-        const QJsonValue bound = body.value("filterParams").toObject().value(field);
-        return (bound.isUndefined() ? body.value(field) : bound).toVariant().toString();
     }
 
     std::unique_ptr<QTemporaryDir> m_config;

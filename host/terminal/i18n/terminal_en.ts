@@ -62,6 +62,10 @@
         <source>Skin</source>
         <translation>Skin</translation>
     </message>
+    <message>
+        <source>Composite screens</source>
+        <translation>Composite screens</translation>
+    </message>
 </context>
 <context>
     <name>ArgumentsDialog</name>
@@ -602,10 +606,6 @@
     <message>
         <source>&amp;Composite screens</source>
         <translation>&amp;Composite screens</translation>
-    </message>
-    <message>
-        <source>Composite screens</source>
-        <translation>Composite screens</translation>
     </message>
     <message>
         <source>&amp;New screen</source>

@@ -62,6 +62,10 @@
         <source>Skin</source>
         <translation>皮肤</translation>
     </message>
+    <message>
+        <source>Composite screens</source>
+        <translation>组合屏</translation>
+    </message>
 </context>
 <context>
     <name>ArgumentsDialog</name>
@@ -602,10 +606,6 @@
     <message>
         <source>&amp;Composite screens</source>
         <translation>组合屏(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Composite screens</source>
-        <translation>组合屏</translation>
     </message>
     <message>
         <source>&amp;New screen</source>
