@@ -59,7 +59,12 @@ void connectChoices(TFSubjectSetting *setting, TFFrameSubjectZHP *frame)
 {
     QObject::connect(setting, &TFSubjectSetting::signalTitleChanged, frame, &TFFrameSubjectZHP::setTitle);
     QObject::connect(setting, &TFSubjectSetting::signalObjVwIdChanged, frame,
-                     [frame](qlonglong id, const QString &) { frame->chooseView(id); });
+                     [setting, frame](qlonglong id, const QString &) {
+                         // Until the new view has its own, those of the former view must not be taken.
+                         if (id != frame->objVwId())
+                             setting->setFilterRows({});
+                         frame->chooseView(id);
+                     });
     QObject::connect(setting, &TFSubjectSetting::signalBindGlBtnClicked, frame, [frame] { bindView(frame); });
     QObject::connect(setting, &TFSubjectSetting::signalPreviewFilters, frame,
                      [setting, frame] { preview(setting, frame); });

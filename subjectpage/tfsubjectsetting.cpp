@@ -1,5 +1,6 @@
 #include "tfsubjectsetting.h"
 
+#include "filterwidget/tfbasefilterwidget.h"
 #include "net/tfdm.h"
 #include "net/tfjsp.h"
 #include "net/tfuc.h"
@@ -57,6 +58,7 @@ void TFSubjectSetting::fillTopics(const QString &list)
 
 void TFSubjectSetting::connectControls()
 {
+    m_ui->fmFilter->installEventFilter(this);
     connect(m_ui->twNavTree, &QTreeWidget::currentItemChanged, this,
             &TFSubjectSetting::slotCurrentItemChanged);
     connect(m_ui->cbNodeCode, &QComboBox::currentTextChanged, this, &TFSubjectSetting::loadTree);
@@ -203,10 +205,14 @@ void TFSubjectSetting::setFilterRows(QList<TFTableModelData::FilterData> rows)
     for (TFTableModelData::FilterData &row : rows) {
         const auto argument = arguments.constFind(row.FieldName);
         if (argument != arguments.constEnd())
-            row.DefualtValue = argument.value().toString();
+            row.DefualtValue = TFSettingArguments::asDefault(row, argument.value());
     }
     m_ui->fmFilter->setFilterData(rows);
-    fitFilterBar();
+    // Buttons that act on a table have none here.
+    for (TFBaseFilterWidget *control : m_ui->fmFilter->findChildren<TFBaseFilterWidget *>()) {
+        if (TFSettingArguments::isPassedOver(control->objectName()))
+            control->hide();
+    }
 }
 
 QVariantMap TFSubjectSetting::filterArguments() const
@@ -216,12 +222,16 @@ QVariantMap TFSubjectSetting::filterArguments() const
 
 void TFSubjectSetting::fitFilterBar()
 {
-    const int wanted = m_ui->fmFilter->heightForWidth(m_ui->saFilter->width());
-    m_ui->saFilter->setFixedHeight(qBound(leastBarHeight, wanted, mostBarHeight));
+    const QSize inside = m_ui->saFilter->maximumViewportSize();
+    const int edge = m_ui->saFilter->height() - inside.height();
+    const int wanted = m_ui->fmFilter->heightForWidth(inside.width());
+    m_ui->saFilter->setFixedHeight(qBound(leastBarHeight, wanted, mostBarHeight) + edge);
 }
 
-void TFSubjectSetting::resizeEvent(QResizeEvent *event)
+bool TFSubjectSetting::eventFilter(QObject *watched, QEvent *event)
 {
-    QFrame::resizeEvent(event);
-    fitFilterBar();
+    // New controls take part in the layout only once they are shown.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        fitFilterBar();
+    return QFrame::eventFilter(watched, event);
 }

@@ -74,7 +74,7 @@ public slots:
     void on_txtTitle_textChanged(QString arg1);
 
 protected:
-    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void connectControls();

@@ -1,5 +1,6 @@
 #include "tfsubjectsettingargs.h"
 
+#include <QDate>
 #include <QStringList>
 
 namespace {
@@ -29,6 +30,13 @@ bool isList(const FilterParam::Cntrl &control)
     return control.op == QLatin1String("in") &&
            control.valueType.contains(QLatin1String("list"), Qt::CaseInsensitive);
 }
+
+/// The literal of the date at the start of \a text, or \a text where there is none.
+QString dateLiteral(const QString &text, const QString &format)
+{
+    const QDate date = QDate::fromString(text.left(format.size()), format);
+    return date.isValid() ? QStringLiteral("=date'%1'").arg(date.toString(Qt::ISODate)) : text;
+}
 } // namespace
 
 bool TFSettingArguments::isPassedOver(const QString &objName)
@@ -52,4 +60,24 @@ QVariantMap TFSettingArguments::read(const QList<FilterParam::Cntrl> &controls)
             arguments.insert(control.key, control.value);
     }
     return arguments;
+}
+
+QString TFSettingArguments::asDefault(const TFTableModelData::FilterData &row, const QVariant &argument)
+{
+    static const QString dayFormat = QStringLiteral("yyyy-MM-dd");
+    const QString text = argument.toString();
+    const auto isA = [&row](const char *word) {
+        return row.ClassName.contains(QLatin1String(word), Qt::CaseInsensitive);
+    };
+    if (text.contains(QLatin1Char(';')))
+        return text;
+    if (isA("dateedit") || isA("reportdatesimple"))
+        return dateLiteral(text, dayFormat);
+    if (isA("yearmonthsimple"))
+        return dateLiteral(text, QStringLiteral("yyyyMM"));
+    if (isA("datetimeinterval") || isA("decimaltexteditinterval")) {
+        const QString end = dateLiteral(text, dayFormat);
+        return end + QLatin1Char(';') + end;
+    }
+    return text;
 }
