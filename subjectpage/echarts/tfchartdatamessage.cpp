@@ -1,5 +1,7 @@
 #include "tfchartdatamessage.h"
 
+#include "tfchartdatanumbers.h"
+
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,6 +14,8 @@ using namespace TFChartData;
 constexpr QLatin1String kName("name");
 constexpr QLatin1String kType("type");
 constexpr QLatin1String kData("data");
+const QByteArray kDataMark = QByteArrayLiteral("\"data\":null");
+const QByteArray kNull = QByteArrayLiteral("null");
 constexpr QLatin1String kValue("value");
 constexpr QLatin1String kShow("show");
 constexpr QLatin1String kSmooth("smooth");
@@ -64,12 +68,21 @@ QByteArray compact(const QJsonObject &message)
     return QJsonDocument(message).toJson(QJsonDocument::Compact);
 }
 
-QJsonArray numbers(const QList<double> &values)
+/// \a text with the values of each visible series in place of its mark. No name can hold the mark: its
+/// quotation marks would be escaped.
+QByteArray withData(const QByteArray &text, const QList<ChartSeries> &series)
 {
-    QJsonArray array;
-    for (double value : values)
-        array.append(value);
-    return array;
+    QByteArray filled;
+    int from = 0;
+    for (const ChartSeries &one : series) {
+        if (!one.visible)
+            continue;
+        const int data = text.indexOf(kDataMark, from) + kDataMark.size() - kNull.size();
+        filled.append(text.constData() + from, data - from);
+        appendNumbers(filled, one.values);
+        from = data + kNull.size();
+    }
+    return filled.append(text.constData() + from, text.size() - from);
 }
 
 template <typename Texts> QJsonArray legendOf(const Texts &texts)
@@ -80,6 +93,7 @@ template <typename Texts> QJsonArray legendOf(const Texts &texts)
     return legend;
 }
 
+/// The series without its values: there stands the mark.
 QJsonObject mixedSeries(const ChartSeries &series)
 {
     const QString &type = series.chartType;
@@ -96,7 +110,7 @@ QJsonObject mixedSeries(const ChartSeries &series)
         object.insert(kStack, series.stackGroup);
     if (series.yAxisSide == 1)
         object.insert(kYAxisIndex, 1);
-    object.insert(kData, numbers(series.values));
+    object.insert(kData, QJsonValue());
     return object;
 }
 
@@ -186,12 +200,14 @@ QByteArray TFChartData::mixedMessage(const ChartSet &set, const Config &config)
     QJsonArray axes{valueAxis(QStringLiteral("left"))};
     if (hasRightAxis)
         axes.append(valueAxis(QStringLiteral("right")));
-    return compact({{kXData, QJsonArray::fromStringList(set.labels)},
-                    {kXAxisLabel, QJsonObject{{kInterval, QStringLiteral("auto")}, {kRotate, 0}}},
-                    {kSeries, series},
-                    {kLegend, legendOf(names)},
-                    {kLegendPosition, config.LegendPosition},
-                    {kYAxis, axes}});
+    const QByteArray text =
+        compact({{kXData, QJsonArray::fromStringList(set.labels)},
+                 {kXAxisLabel, QJsonObject{{kInterval, QStringLiteral("auto")}, {kRotate, 0}}},
+                 {kSeries, series},
+                 {kLegend, legendOf(names)},
+                 {kLegendPosition, config.LegendPosition},
+                 {kYAxis, axes}});
+    return withData(text, set.series);
 }
 
 QByteArray TFChartData::pieMessage(const ChartSet &set, const Config &config)

@@ -1,5 +1,7 @@
 #include "tfchartdataseries.h"
 
+#include "records/tfrounding.h"
+
 #include <QDateTime>
 #include <QRegExp>
 
@@ -19,10 +21,37 @@ constexpr int kDefaultDecimals = 2;
 constexpr int kNoCategory = 0;
 constexpr int kAnyCategory = -1;
 
-double withDecimals(double value, int decimals)
+/// How the points of a series are rounded: "N" or "n" and one digit gives the decimals.
+class Rounding
 {
-    return QString::number(value, 'f', decimals).toDouble();
-}
+public:
+    explicit Rounding(const QString &format)
+    {
+        if (format.isEmpty()) {
+            m_kind = WhereFraction;
+            m_decimals = kDefaultDecimals;
+            return;
+        }
+        QRegExp pattern(kDecimalsPattern);
+        if (pattern.indexIn(format) >= 0) {
+            m_kind = Always;
+            m_decimals = pattern.cap(2).toInt();
+        }
+    }
+
+    double operator()(double value) const
+    {
+        const bool isRounded =
+            m_kind == Always || (m_kind == WhereFraction && TFRounding::showsFraction(value));
+        return isRounded ? TFRounding::toDecimals(value, m_decimals) : value;
+    }
+
+private:
+    enum Kind { Never, WhereFraction, Always };
+
+    Kind m_kind = Never;
+    int m_decimals = 0;
+};
 
 bool isScaled(const SeriesConfig &entry)
 {
@@ -30,15 +59,36 @@ bool isScaled(const SeriesConfig &entry)
            entry.ShowUnitFactor != 0;
 }
 
-/// The point of \a entry in \a row. A scaled one is read from \a scaledField.
-double dataPoint(const QVariantMap &row, const SeriesConfig &entry, const QString &scaledField)
+double number(const QVariantMap &row, const QString &field)
 {
-    const bool scaled = isScaled(entry);
-    double value = row.value(scaled ? scaledField : entry.FieldName).toDouble();
-    if (scaled)
-        value = value * double(entry.PrevUnitFactor) / entry.ShowUnitFactor;
-    return roundedValue(value, entry.ValueFormatString);
+    const auto value = row.constFind(field);
+    return value == row.constEnd() ? 0.0 : value->toDouble();
 }
+
+/// The points of one entry of the chart, row by row. Scaled ones are read from \a scaledField.
+class PointReader
+{
+public:
+    PointReader(const SeriesConfig &entry, const QString &scaledField)
+        : m_entry(entry)
+        , m_isScaled(isScaled(entry))
+        , m_field(m_isScaled ? scaledField : entry.FieldName)
+        , m_rounding(entry.ValueFormatString)
+    {}
+
+    double operator()(const QVariantMap &row) const
+    {
+        const double value = number(row, m_field);
+        return m_rounding(m_isScaled ? value * double(m_entry.PrevUnitFactor) / m_entry.ShowUnitFactor
+                                     : value);
+    }
+
+private:
+    const SeriesConfig &m_entry;
+    const bool m_isScaled;
+    const QString &m_field;
+    const Rounding m_rounding;
+};
 
 ChartSeries describedSeries(const SeriesConfig &entry)
 {
@@ -143,8 +193,11 @@ void Builder::buildColumns()
             m_set.labels.clear();
             return;
         }
+        const PointReader point(entry, entry.FieldName);
         for (const QVariantMap &row : m_rows)
-            put(series.values, dataPoint(row, entry, entry.FieldName), m_config.IsTurnXAxis);
+            series.values.append(point(row));
+        if (m_config.IsTurnXAxis)
+            std::reverse(series.values.begin(), series.values.end());
         series.xLabels = m_set.labels;
         m_set.series.append(series);
     }
@@ -165,7 +218,7 @@ void Builder::buildRows()
         series.valueFormat.clear();
         QStringList names;
         for (const SeriesConfig &entry : m_config.ChartDataConfigs) {
-            series.values.append(dataPoint(row, entry, first.FieldName));
+            series.values.append(PointReader(entry, first.FieldName)(row));
             names.append(entry.LegendLable);
         }
         m_set.labels = names;
@@ -182,7 +235,7 @@ void Builder::buildPivotPie()
             ChartSeries series = describedSeries(entry);
             series.index = index++;
             series.xName = axisText(row);
-            series.values.append(dataPoint(row, entry, entry.FieldName));
+            series.values.append(PointReader(entry, entry.FieldName)(row));
             series.xLabels = m_set.labels;
             m_set.series.append(series);
         }
@@ -200,12 +253,7 @@ bool TFChartData::isPie(const Config &config)
 
 double TFChartData::roundedValue(double value, const QString &format)
 {
-    if (format.isEmpty()) {
-        const bool hasFraction = QString::number(value).contains(QLatin1Char('.'));
-        return hasFraction ? withDecimals(value, kDefaultDecimals) : value;
-    }
-    QRegExp pattern(kDecimalsPattern);
-    return pattern.indexIn(format) < 0 ? value : withDecimals(value, pattern.cap(2).toInt());
+    return Rounding(format)(value);
 }
 
 void TFChartData::buildSeries(ChartSet &set, const Rows &rows, const Config &config, DateLabels dateLabels)

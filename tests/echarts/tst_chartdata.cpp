@@ -2,8 +2,14 @@
 
 #include "chartjson.h"
 #include "echarts/tfchartdatamessage.h"
+#include "echarts/tfchartdatanumbers.h"
 #include "echarts/tfchartdatarows.h"
 #include "echarts/tfchartdataseries.h"
+#include "records/tfrounding.h"
+
+#include <cmath>
+#include <cstring>
+#include <random>
 
 using namespace TFChartData;
 
@@ -29,6 +35,7 @@ private slots:
     void piesStandSideBySide();
     void pivotPieTurnsItsSlices();
     void nothingToDrawGivesNoPieMessage();
+    void numbersRoundAndReadAsTheToolkitWritesThem();
 };
 
 namespace {
@@ -385,6 +392,42 @@ void TestChartData::nothingToDrawGivesNoPieMessage()
     QVERIFY(pieMessage({}, {}).isEmpty());
     QVERIFY(!pieMessage(withoutLabels, {}).isEmpty());
     QVERIFY(pivotPieMessage(withoutLabels, {}).isEmpty());
+}
+
+void TestChartData::numbersRoundAndReadAsTheToolkitWritesThem()
+{
+    std::mt19937_64 random(5);
+    QList<double> numbers{0,    -0.0, qInf(),   -qInf(), qQNaN(), 1e300, 5e-324, 9007199254740993.0,
+                          1e15, 1e6,  999999.5, 99999.95};
+    for (int i = 0; i < 50000; ++i) {
+        const double sign = random() % 2 ? 1 : -1;
+        const auto digits = double(random() % 10000000);
+        numbers << sign * digits / std::pow(10, random() % 12)
+                << sign * (double(random() % 100000) + 0.5) / std::pow(10, random() % 8)
+                << sign * std::ldexp(double(random()), int(random() % 160) - 130) << sign * digits / 1024
+                << sign * (double(random() % 1000) + std::pow(10, -double(random() % 8)));
+    }
+    for (const double number : qAsConst(numbers)) {
+        const int decimals = int(random() % 10);
+        const double told = QString::number(number, 'f', decimals).toDouble();
+        const double rounded = TFRounding::toDecimals(number, decimals);
+        QVERIFY2(std::memcmp(&rounded, &told, sizeof told) == 0 || std::isnan(told),
+                 qPrintable(QString("%1 to %2").arg(number, 0, 'g', 17).arg(decimals)));
+        QVERIFY2(TFRounding::showsFraction(number) == QString::number(number).contains('.'),
+                 qPrintable(QString::number(number, 'g', 17)));
+    }
+
+    QJsonArray array;
+    for (const double number : qAsConst(numbers)) {
+        array.append(number);
+        array.append(QString::number(number, 'f', 2).toDouble());
+    }
+    QByteArray written = "before";
+    QList<double> values;
+    for (const QJsonValue &value : qAsConst(array))
+        values.append(value.isNull() ? qQNaN() : value.toDouble());
+    appendNumbers(written, values);
+    QCOMPARE(written, "before" + QJsonDocument(array).toJson(QJsonDocument::Compact));
 }
 
 SUBJECT_TEST_MAIN(TestChartData)
