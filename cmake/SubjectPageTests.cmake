@@ -1,10 +1,11 @@
-# subjectpage_add_test(<name> SOURCES <file>... [LIBRARIES <target>...] [DISPLAY] [WEBENGINE] [SERIAL] [TIMEOUT <s>])
+# subjectpage_add_test(<name> SOURCES <file>... [LIBRARIES <target>...] [DISPLAY] [WEBENGINE] [SERIAL] [TIMEOUT <s>]
+#                      [BESIDE <program>])
 #
 # One test program, run by CTest without a screen. DISPLAY gives it a virtual X display of its own (anything that
 # shows a web view needs one); WEBENGINE does the same and labels the test, since the web engine does not run under
 # the sanitizers.
 function(subjectpage_add_test name)
-    cmake_parse_arguments(T "DISPLAY;WEBENGINE;SERIAL" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(T "DISPLAY;WEBENGINE;SERIAL" "TIMEOUT;BESIDE" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${T_SOURCES})
     target_link_libraries(${name} PRIVATE testsupport ${T_LIBRARIES})
     target_compile_definitions(${name} PRIVATE TEST_DATA_DIR="${CMAKE_SOURCE_DIR}/tests/data"
@@ -14,7 +15,7 @@ function(subjectpage_add_test name)
         add_test(NAME ${name} COMMAND xvfb-run -a -s "-screen 0 1600x1200x24" $<TARGET_FILE:${name}>)
         set(environment QTWEBENGINE_DISABLE_SANDBOX=1 QT_QPA_PLATFORM=xcb)
     else()
-        add_test(NAME ${name} COMMAND ${name})
+        add_test(NAME ${name} COMMAND ${T_BESIDE} $<TARGET_FILE:${name}>)
         set(environment QT_QPA_PLATFORM=offscreen)
     endif()
     if(NOT T_TIMEOUT)

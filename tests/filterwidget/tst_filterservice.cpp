@@ -60,7 +60,7 @@ private slots:
                        'PROVINCE': {'ValueType': 'String'}, 'YM': {'ValueType': 'String'},
                        'Y': {'ValueType': 'Int32'}}})"));
         m_service.start(SERVICE_PROGRAM,
-                        {"--db", m_fixture.databaseFile(), "--views", m_fixture.viewFolder(), "--port", "0"});
+                        {"--db", m_fixture.databaseAddress(), "--views", m_fixture.viewFolder(), "--port", "0"});
         while (!m_service.canReadLine() && m_service.waitForReadyRead(20000)) {
         }
         const QString line = QString::fromUtf8(m_service.readLine()).trimmed();

@@ -7,7 +7,10 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QUuid>
 #include <QtTest>
+
+#include <libpq-fe.h>
 
 namespace {
 
@@ -15,7 +18,7 @@ QStringList priceRows()
 {
     QStringList statements{
         QStringLiteral("CREATE TABLE price (SYMBOL TEXT PRIMARY KEY, NAME TEXT, SECTOR INTEGER,"
-                       " PRICE REAL, DAY TEXT, EXCHANGE TEXT)")};
+                       " PRICE DOUBLE PRECISION, DAY TEXT, EXCHANGE TEXT)")};
     for (int i = 1; i <= 12; ++i) {
         const QString number = QStringLiteral("%1").arg(i, 2, 10, QLatin1Char('0'));
         const QString day = QStringLiteral("2020-01-") + number + (i % 3 == 0 ? " 15:30:00" : "");
@@ -31,13 +34,31 @@ QStringList priceRows()
 } // namespace
 
 ServiceFixture::ServiceFixture()
+    : m_schema(QLatin1Char('t') + QUuid::createUuid().toString(QUuid::Id128))
 {
+    if (isPostgres())
+        change({QStringLiteral("CREATE SCHEMA ") + m_schema});
     change(priceRows()
-           << QStringLiteral("CREATE TABLE curve (D TEXT, TENOR TEXT, N REAL, RATE REAL, VOL INTEGER)")
+           << QStringLiteral("CREATE TABLE curve (D TEXT, TENOR TEXT, N DOUBLE PRECISION, RATE DOUBLE "
+                             "PRECISION, VOL INTEGER)")
            << QStringLiteral(
                   "INSERT INTO curve VALUES ('2020-01-01','10年',10,3.1,5), ('2020-01-01','1年',1,2.0,6),"
                   " ('2020-01-01','3月',0.25,1.5,7), ('2020-01-02','1年',1,2.1,NULL),"
                   " ('2020-01-02','10年',10,3.2,8)"));
+}
+
+ServiceFixture::~ServiceFixture()
+{
+    if (isPostgres())
+        change({QStringLiteral("DROP SCHEMA %1 CASCADE").arg(m_schema)});
+}
+
+QString ServiceFixture::databaseAddress() const
+{
+    if (!isPostgres())
+        return m_folder.filePath(QStringLiteral("test.sqlite"));
+    return qEnvironmentVariable("SUBJECT_TEST_POSTGRES") + QStringLiteral("&options=-csearch_path%3D") +
+           m_schema;
 }
 
 void ServiceFixture::write(const QString &name, const QByteArray &text) const
@@ -56,10 +77,25 @@ void ServiceFixture::write(const QString &name, const QJsonObject &document) con
 
 void ServiceFixture::change(const QStringList &statements) const
 {
+    isPostgres() ? changeServer(statements) : changeFile(statements);
+}
+
+void ServiceFixture::changeServer(const QStringList &statements) const
+{
+    const std::unique_ptr<PGconn, decltype(&PQfinish)> connection(
+        PQconnectdb(databaseAddress().toUtf8().constData()), &PQfinish);
+    const QByteArray text = "SET client_min_messages = warning;" + statements.join(QLatin1Char(';')).toUtf8();
+    const std::unique_ptr<PGresult, decltype(&PQclear)> result(PQexec(connection.get(), text.constData()),
+                                                               &PQclear);
+    QVERIFY2(PQresultStatus(result.get()) == PGRES_COMMAND_OK, PQerrorMessage(connection.get()));
+}
+
+void ServiceFixture::changeFile(const QStringList &statements) const
+{
     {
         QSqlDatabase database =
             QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("writer"));
-        database.setDatabaseName(databaseFile());
+        database.setDatabaseName(databaseAddress());
         QVERIFY(database.open());
         QSqlQuery query(database);
         QVERIFY(query.exec(QStringLiteral("PRAGMA synchronous = OFF")));

@@ -5,7 +5,9 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-/// A folder with a small SQLite database and documents of views over it.
+/// A folder with documents of views, and a small database that they show: an SQLite file, or, where
+/// SUBJECT_TEST_POSTGRES names a PostgreSQL server (see tests/support/with-postgres), a schema of its own
+/// there.
 ///
 /// The table `price` holds 12 rows: symbols S01 to S12, sectors 1 to 3 in turn, prices 1.5 times the number
 /// but NULL for S05, days 2020-01-01 to 2020-01-12, each third with a time of day, exchanges A and B in turn,
@@ -14,8 +16,13 @@ class ServiceFixture
 {
 public:
     ServiceFixture();
+    ~ServiceFixture();
 
-    QString databaseFile() const { return m_folder.filePath(QStringLiteral("test.sqlite")); }
+    /// Whether the tests run on PostgreSQL.
+    static bool isPostgres() { return qEnvironmentVariableIsSet("SUBJECT_TEST_POSTGRES"); }
+
+    /// The database as the service takes it.
+    QString databaseAddress() const;
     QString viewFolder() const { return m_folder.filePath(QStringLiteral("views")); }
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
 
@@ -34,7 +41,11 @@ public:
     static QJsonObject tableDocument();
 
 private:
+    void changeFile(const QStringList &statements) const;
+    void changeServer(const QStringList &statements) const;
+
     QTemporaryDir m_folder;
+    QString m_schema;
 };
 
 /// A JSON object from text with single quotes in place of double ones; "??" stands for two single quotes, and

@@ -176,7 +176,7 @@ void TestFilterSql::datesFindTheRowsOfTheirDay()
     QFETCH(QString, filter);
     QFETCH(int, rows);
     const ServiceFixture fixture;
-    Database database(fixture.databaseFile());
+    Database database(fixture.databaseAddress());
     QString fault;
     QVERIFY2(database.open(&fault), qPrintable(fault));
 

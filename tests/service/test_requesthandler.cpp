@@ -91,7 +91,7 @@ void TestRequestHandler::init()
     beginMessages();
     m_fixture = std::make_unique<ServiceFixture>();
     m_fixture->writeStandardViews();
-    m_database = std::make_unique<Database>(m_fixture->databaseFile());
+    m_database = std::make_unique<Database>(m_fixture->databaseAddress());
     QString fault;
     QVERIFY2(m_database->open(&fault), qPrintable(fault));
     m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
@@ -378,7 +378,8 @@ void TestRequestHandler::textsFromOutsideStayValues()
 void TestRequestHandler::databaseFaultIsTheServersFault()
 {
     m_fixture->change({QStringLiteral("DROP TABLE price")});
-    expectWarning(QStringLiteral("no such table: price"));
+    expectWarning(ServiceFixture::isPostgres() ? QStringLiteral("relation \"price\" does not exist")
+                                               : QStringLiteral("no such table: price"));
 
     const QJsonObject reply = ask("{\"obj_vw_id\":10,\"flag\":1}", 500);
 

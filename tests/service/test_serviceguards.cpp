@@ -271,11 +271,11 @@ void TestServiceGuards::healthFollowsTheDatabase()
     const QString away = m_fixture->filePath(QStringLiteral("away"));
 
     // No worker has opened the database yet.
-    QVERIFY(QFile::rename(m_fixture->databaseFile(), away));
+    QVERIFY(QFile::rename(m_fixture->databaseAddress(), away));
     QCOMPARE(get(service.port(), QStringLiteral("/healthz")).status, 503);
     QCOMPARE(post(service.port(), SubjectPath, AllRows).status, 500);
 
-    QVERIFY(QFile::rename(away, m_fixture->databaseFile()));
+    QVERIFY(QFile::rename(away, m_fixture->databaseAddress()));
     const Answer good = get(service.port(), QStringLiteral("/healthz"));
     QCOMPARE(good.status, 200);
     QCOMPARE(good.body, QByteArray("ok\n"));
@@ -287,12 +287,12 @@ void TestServiceGuards::aReplacedDatabaseIsOpenedAnew()
     RunningService service(*m_fixture, {"--threads", "1"});
     QVERIFY(post(service.port(), SubjectPath, AllRows).body.contains("S12"));
     const QString next = m_fixture->filePath(QStringLiteral("next"));
-    QVERIFY(QFile::copy(m_fixture->databaseFile(), next));
+    QVERIFY(QFile::copy(m_fixture->databaseAddress(), next));
     m_fixture->change({QStringLiteral("DELETE FROM price")});
 
-    QVERIFY(QFile::remove(m_fixture->databaseFile()));
+    QVERIFY(QFile::remove(m_fixture->databaseAddress()));
     QCOMPARE(post(service.port(), SubjectPath, AllRows).status, 200);
-    QVERIFY(QFile::rename(next, m_fixture->databaseFile()));
+    QVERIFY(QFile::rename(next, m_fixture->databaseAddress()));
 
     QVERIFY(post(service.port(), SubjectPath, AllRows).body.contains("S12"));
     QCOMPARE(samples(get(service.port(), QStringLiteral("/metrics")).body)

@@ -190,9 +190,9 @@ void TestSubjectService::signalsEndItCleanly()
 void TestSubjectService::endsWithTheProcessThatStartedIt()
 {
     QProcess parent;
-    parent.start(QStringLiteral("sh"),
-                 {"-c", R"("$@" & echo $!; wait)", "sh", SERVICE_PROGRAM, "--db", m_fixture->databaseFile(),
-                  "--views", m_fixture->viewFolder(), "--port", "0", "--exit-with-parent"});
+    parent.start(QStringLiteral("sh"), {"-c", R"("$@" & echo $!; wait)", "sh", SERVICE_PROGRAM, "--db",
+                                        m_fixture->databaseAddress(), "--views", m_fixture->viewFolder(),
+                                        "--port", "0", "--exit-with-parent"});
     QByteArray output;
     while (!output.contains("listening") && parent.waitForReadyRead(20000))
         output += parent.readAll();
@@ -241,8 +241,9 @@ void TestSubjectService::wrongUsageIsToldWithItsStatus_data()
                                     << QByteArray("cannot open database");
     QTest::newRow("check") << good + QStringList{"--check"} << 0 << QByteArray("3 views, 0 faults");
     QTest::newRow("check in a relative folder")
-        << QStringList{"--db", "test.sqlite", "--views", "views", "--check"} << 0
-        << QByteArray("3 views, 0 faults");
+        << QStringList{"--db", ServiceFixture::isPostgres() ? "DB" : "test.sqlite", "--views", "views",
+                       "--check"}
+        << 0 << QByteArray("3 views, 0 faults");
     QTest::newRow("check of nothing") << QStringList{"--db", "DB", "--views", "/nope", "--check"} << 1
                                       << QByteArray("/nope: no such folder");
 }
@@ -252,7 +253,7 @@ void TestSubjectService::wrongUsageIsToldWithItsStatus()
     QFETCH(QStringList, arguments);
     QFETCH(int, status);
     QFETCH(QByteArray, text);
-    arguments.replaceInStrings(QStringLiteral("DB"), m_fixture->databaseFile());
+    arguments.replaceInStrings(QStringLiteral("DB"), m_fixture->databaseAddress());
     arguments.replaceInStrings(QStringLiteral("VIEWS"), m_fixture->viewFolder());
     QProcess process;
     process.setWorkingDirectory(m_fixture->filePath(QString()));

@@ -77,7 +77,7 @@ void TestViewDocuments::init()
     beginMessages();
     m_fixture = std::make_unique<ServiceFixture>();
     m_fixture->writeStandardViews();
-    m_database = std::make_unique<Database>(m_fixture->databaseFile());
+    m_database = std::make_unique<Database>(m_fixture->databaseAddress());
     QString fault;
     QVERIFY2(m_database->open(&fault), qPrintable(fault));
 }
