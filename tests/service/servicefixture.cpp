@@ -107,6 +107,13 @@ void ServiceFixture::changeFile(const QStringList &statements) const
     QSqlDatabase::removeDatabase(QStringLiteral("writer"));
 }
 
+void ServiceFixture::breakConnections() const
+{
+    if (isPostgres())
+        change({QStringLiteral("DO 'BEGIN PERFORM pg_terminate_backend(pid) FROM pg_stat_activity"
+                               " WHERE application_name = ''subject-service''; END'")});
+}
+
 QJsonObject ServiceFixture::tableDocument()
 {
     return object(R"({

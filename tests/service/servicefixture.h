@@ -37,6 +37,9 @@ public:
     /// Runs statements on a connection that may write.
     void change(const QStringList &statements) const;
 
+    /// Ends all connections of services to the server. A file has none.
+    void breakConnections() const;
+
     /// View 10: all of `price`, parameter EXCHANGE, key SYMBOL, order PRICE DESC,SYMBOL ASC.
     static QJsonObject tableDocument();
 

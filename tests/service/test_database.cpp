@@ -94,8 +94,7 @@ void TestDatabase::aLostConnectionIsTold()
 {
     if (!ServiceFixture::isPostgres())
         QSKIP("a file has no connection");
-    m_fixture.change({QStringLiteral("DO 'BEGIN PERFORM pg_terminate_backend(pid) FROM pg_stat_activity"
-                                     " WHERE application_name = ''subject-service''; END'")});
+    m_fixture.breakConnections();
     allowWarnings(QStringLiteral("failed:"));
 
     const QString answer = rowCount();

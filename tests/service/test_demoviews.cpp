@@ -20,12 +20,12 @@ struct Served
         : database(address)
         , isOpen(database.open(&fault))
         , library(PROJECT_SOURCE_DIR "/demo/views", database)
-        , handler(library)
+        , handler(library, Limits())
     {}
 
     QJsonObject ask(const QJsonObject &request)
     {
-        const Reply reply = handler.subjectData(QJsonDocument(request).toJson(), database);
+        const Reply reply = handler.subjectData(QJsonDocument(request).toJson(), Identity(), database);
         return QJsonDocument::fromJson(reply.body).object();
     }
 
@@ -169,7 +169,8 @@ void TestDemoViews::namedListsAreTheSame()
           R"x({"objId":390,"filter":"(TYPE == 1) && (VALUE != '2')"})x", R"({"objName":"STATES"})",
           R"x({"objName":"EXCHANGES","filter":"(VALUE != 'NYSE')"})x"}) {
         const auto answer = [body](Served &served) {
-            return QJsonDocument::fromJson(served.handler.namedData(body, served.database).body).object();
+            return QJsonDocument::fromJson(served.handler.namedData(body, Identity(), served.database).body)
+                .object();
         };
         QCOMPARE(difference(answer(*m_file), answer(*m_server), QString::fromUtf8(body)), QString());
     }
