@@ -39,6 +39,13 @@ void ScreenArguments::setValues(const QVariantMap &values)
         emit changed(changedOnes);
 }
 
+void ScreenArguments::setValue(const QString &name, const QVariant &value)
+{
+    QVariantMap values = m_values;
+    values.insert(name, value);
+    setValues(values);
+}
+
 void ScreenArguments::edit()
 {
     ArgumentsDialog dialog(m_values, proposals(), dialogParent(m_window));

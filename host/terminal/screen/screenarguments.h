@@ -21,6 +21,7 @@ public:
     QVariantMap values() const { return m_values; }
     /// Takes all arguments; without a difference nothing happens.
     void setValues(const QVariantMap &values);
+    void setValue(const QString &name, const QVariant &value);
     /// Values that the editor offers: the views that the screen's components show.
     void setProposals(std::function<QStringList()> proposals) { m_proposals = std::move(proposals); }
 

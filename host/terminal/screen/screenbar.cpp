@@ -1,5 +1,6 @@
 #include "screenbar.h"
 
+#include "argumentfields.h"
 #include "componentcatalog.h"
 
 #include <QEvent>
@@ -29,6 +30,7 @@ ScreenBar::ScreenBar(const ComponentCatalog *catalog, QWidget *parent)
     , m_name(new QLabel)
     , m_add(makeButton<QToolButton>("AddComponent"))
     , m_arguments(makeButton<QPushButton>("EditArguments"))
+    , m_fields(new ArgumentFields)
     , m_state(new QLabel)
     , m_save(makeButton<QPushButton>("SaveScreen"))
 {
@@ -50,10 +52,12 @@ ScreenBar::ScreenBar(const ComponentCatalog *catalog, QWidget *parent)
     layout->addSpacing(4);
     layout->addWidget(m_add);
     layout->addWidget(m_arguments);
-    layout->addStretch(1);
+    layout->addSpacing(8);
+    layout->addWidget(m_fields, 1);
     layout->addWidget(m_state);
     layout->addWidget(m_save);
     connect(m_arguments, &QPushButton::clicked, this, &ScreenBar::argumentsRequested);
+    connect(m_fields, &ArgumentFields::entered, this, &ScreenBar::argumentEntered);
     connect(m_save, &QPushButton::clicked, this, &ScreenBar::saveRequested);
     retranslate();
 }
@@ -61,6 +65,11 @@ ScreenBar::ScreenBar(const ComponentCatalog *catalog, QWidget *parent)
 void ScreenBar::setName(const QString &name)
 {
     m_name->setText(name);
+}
+
+void ScreenBar::setArguments(const QVariantMap &values)
+{
+    m_fields->setValues(values);
 }
 
 void ScreenBar::showSaved(const QString &fault)

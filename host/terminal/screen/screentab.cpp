@@ -41,6 +41,9 @@ void ScreenTab::connectParts()
     connect(m_bar, &ScreenBar::addRequested, m_view, [this](const QByteArray &name) { m_view->add(name); });
     connect(m_bar, &ScreenBar::argumentsRequested, &m_arguments, &ScreenArguments::edit);
     connect(m_bar, &ScreenBar::saveRequested, this, &ScreenTab::save);
+    connect(m_bar, &ScreenBar::argumentEntered, &m_arguments, &ScreenArguments::setValue);
+    connect(&m_arguments, &ScreenArguments::changed, this,
+            [this] { m_bar->setArguments(m_arguments.values()); });
     connect(m_view, &ScreenView::layoutChanged, this, &ScreenTab::saveSoon);
     connect(m_view, &ScreenView::componentChanged, this, &ScreenTab::save);
     connect(&m_arguments, &ScreenArguments::changed, this, &ScreenTab::saveSoon);
@@ -70,6 +73,7 @@ void ScreenTab::open()
     QSignalBlocker quiet(m_arguments);
     m_arguments.setValues(state.args);
     quiet.unblock();
+    m_bar->setArguments(state.args);
     m_view->restoreLayout(state.layout);
     m_view->focusCurrent();
 }
