@@ -15,6 +15,7 @@
 
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -99,6 +100,8 @@ private slots:
         QCOMPARE(restored->state.value("text").type(), QVariant::String);
         QCOMPARE(restored->argsAtRestore.value("product").toString(), QString("螺纹钢"));
         QCOMPARE(m_tab->view().cells().last()->title(), QString("T"));
+        m_tab->reload();
+        QCOMPARE(textOf(m_tab->view().layoutState()), layout);
     }
 
     void onlyWhatTellsOfNewSettingsIsAsked()
@@ -121,40 +124,23 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("place");
         QTest::addColumn<QString>("layout");
-        QTest::newRow("cut off") << "{\n\"format\": \"comp"
-                                 << "line 2"
-                                 << "empty";
-        QTest::newRow("not a screen") << "{}"
-                                      << "format: "
-                                      << "empty";
-        QTest::newRow("newer") << QString(head).replace(": 1,", ": 2,") + "\"layout\": " + good + "}"
-                               << "version: "
-                               << "StubA";
-        QTest::newRow("no name") << R"({"format": "composite-screen", "version": 1})"
-                                 << "name: "
-                                 << "empty";
-        QTest::newRow("args") << QString(head).replace("{},", "[],") + "\"layout\": " + good + "}"
-                              << "args: "
-                              << "StubA";
-        QTest::newRow("class") << head + R"("layout": {"row": [{"class": 5}, )" + good +
-                                      R"(], "shares": [0.5, 0.5]}})"
-                               << "layout/row\\[0\\]/class: "
-                               << "StubA";
-        QTest::newRow("node") << head + R"("layout": 5})"
-                              << "layout: "
-                              << "empty";
-        QTest::newRow("shares") << head + R"("layout": {"column": [)" + good + "," + good +
-                                       R"(], "shares": [-1, 2]}})"
-                                << "layout/shares: "
-                                << "column(0.5 StubA, 0.5 StubA)";
-        QTest::newRow("whole number")
-            << head + R"("layout": {"class": "Stub", "state": {"a": [{"$int": "x"}]}}})"
-            << "layout/state/a\\[0\\]: "
-            << "Stub";
-        QTest::newRow("depth") << head + "\"layout\": " + QString(R"({"row": [)").repeated(20) + good +
-                                      QString("]}").repeated(20) + "}"
-                               << "nested"
-                               << "empty";
+        const auto screen = [&](const QString &layout) { return head + "\"layout\": " + layout + '}'; };
+        const auto row = [](const char *name, const QString &text, const QString &place,
+                            const QString &layout) { testRow(name, text, place, layout); };
+        const QString deep = QString(R"({"row": [)").repeated(20) + good + QString("]}").repeated(20);
+        const QString two = R"({"column": [%1, %1], "shares": [-1, 2]})";
+        row("cut off", "{\n\"format\": \"comp", "line 2", "empty");
+        row("not a screen", "{}", "format: ", "empty");
+        row("newer", screen(good).replace(": 1,", ": 2,"), "version: ", "StubA");
+        row("no name", R"({"format": "composite-screen", "version": 1})", "name: ", "empty");
+        row("args", screen(good).replace("{},", "[],"), "args: ", "StubA");
+        row("class", screen(R"({"row": [{"class": 5}, %1], "shares": [1, 1]})").replace("%1", good),
+            "layout/row\\[0\\]/class: ", "StubA");
+        row("node", screen("5"), "layout: ", "empty");
+        row("shares", screen(two).replace("%1", good), "layout/shares: ", "column(0.5 StubA, 0.5 StubA)");
+        row("whole number", screen(R"({"class": "Stub", "state": {"a": [{"$int": "x"}]}})"),
+            "layout/state/a\\[0\\]: ", "Stub");
+        row("depth", screen(deep), "nested", "empty");
     }
 
     void damagedFileOpensWhatIsUsableAndIsKept()
@@ -267,6 +253,11 @@ private slots:
         QCOMPARE(stub->screen->property("args").toMap(), (QVariantMap{{"a", "1"}, {"c", "3"}}));
         m_tab->arguments().setValues({{"a", "1"}, {"c", "3"}});
         QCOMPARE(stub->changes.size(), 1);
+
+        const QList<QLineEdit *> fields = m_tab->findChildren<QLineEdit *>("ArgumentField");
+        fields.last()->setText("4");
+        QTest::keyClick(fields.last(), Qt::Key_Return);
+        QCOMPARE(stub->changes.mid(1), (QList<QVariantMap>{{{"c", "4"}}}));
     }
 
     void componentBindsToAnArgumentThatTheUserMakes()

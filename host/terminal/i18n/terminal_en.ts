@@ -503,12 +503,12 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>there is no such file</translation>
-    </message>
-    <message>
         <source>too large for a composite screen</source>
         <translation>too large for a composite screen</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>not an ordinary file</translation>
     </message>
 </context>
 <context>

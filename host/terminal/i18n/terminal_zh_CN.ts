@@ -503,12 +503,12 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>there is no such file</source>
-        <translation>没有这个文件</translation>
-    </message>
-    <message>
         <source>too large for a composite screen</source>
         <translation>文件过大，不是组合屏</translation>
+    </message>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>不是普通文件</translation>
     </message>
 </context>
 <context>

@@ -35,7 +35,7 @@ ScreenFormat::Reading ScreenFile::load()
     m_known.clear();
     const QFileInfo info(m_path);
     if (!info.isFile())
-        return {{}, {Texts::tr("there is no such file")}};
+        return {{}, {Texts::tr("not an ordinary file")}};
     if (info.size() > MaxSize)
         return {{}, {Texts::tr("too large for a composite screen")}};
     QFile file(m_path);
@@ -57,6 +57,8 @@ QString ScreenFile::save(const ScreenState &state)
         qCWarning(lcScreen).noquote() << m_path << problem;
     QFile present(m_path);
     if (present.exists()) {
+        if (!QFileInfo(m_path).isFile())
+            return Texts::tr("%1: %2").arg(m_path, Texts::tr("not an ordinary file"));
         if (!present.open(QIODevice::ReadOnly))
             return Texts::tr("%1: %2").arg(m_path, present.errorString());
         const QByteArray there = present.readAll();
