@@ -224,6 +224,13 @@ void TFFrameSubjectZHP::restore(const QMap<QString, QVariant> &map)
     refreshPage();
 }
 
+void TFFrameSubjectZHP::keepVisible(QLatin1String key, bool visible)
+{
+    QVariantMap cached = property(cacheProperty).toMap();
+    cached.insert(key, visible);
+    setProperty(cacheProperty, cached);
+}
+
 void TFFrameSubjectZHP::applyCachedVisibility()
 {
     m_isVisibilityPending = false;

@@ -66,6 +66,9 @@ public:
     /// Shows view \a id without the filter arguments of the view before. The view on show is left as it is.
     void chooseView(qlonglong id);
     void refreshPage();
+    /// Has the part behind \a key, one of the visibility keys of TFFrameState, keep its visibility at every
+    /// new page.
+    void keepVisible(QLatin1String key, bool visible);
     /// The present state as save() writes it.
     TFFrameState state() const;
 

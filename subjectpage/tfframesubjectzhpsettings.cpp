@@ -12,29 +12,44 @@
 #include <QPointer>
 
 namespace {
+void showParts(TFSubjectSetting *setting, const TFFrameState &state)
+{
+    setting->setPartsVisible(state.mainViewVisible, state.filterVisible, state.subViewVisible,
+                             state.pageBarVisible);
+}
+
 void showState(TFSubjectSetting *setting, TFFrameSubjectZHP *frame)
 {
     const TFFrameState state = frame->state();
     setting->setFrame(frame);
-    setting->setPartsVisible(state.mainViewVisible, state.filterVisible, state.subViewVisible,
-                             state.pageBarVisible);
+    showParts(setting, state);
     setting->setCurrentView(state.objVwId, state.title);
     setting->setBindingEnabled(frame->screenObject());
 }
 
+/// Parts that a new page would hide again keep what is chosen here.
 void connectVisibility(TFSubjectSetting *setting, TFFrameSubjectZHP *frame)
 {
     TFRightContainer *page = frame->page();
     QObject::connect(setting, &TFSubjectSetting::signalTitleVisibleChanged, page,
                      &TFRightContainer::setTitleVisible);
-    QObject::connect(setting, &TFSubjectSetting::signalFilterWidgetVisibleSettingChanged, page->mainView(),
-                     &TFMainView::setFilterBarVisible);
     QObject::connect(setting, &TFSubjectSetting::signalMainViewVisibleSettingChanged, page,
                      &TFRightContainer::setMainViewVisible);
-    QObject::connect(setting, &TFSubjectSetting::signalSubViewVisibleSettingChanged, page,
-                     &TFRightContainer::setChildViewsVisible);
-    QObject::connect(setting, &TFSubjectSetting::signalPageBarVisibleChanged, page->mainView(),
-                     &TFMainView::setPageBarVisible);
+    QObject::connect(setting, &TFSubjectSetting::signalFilterWidgetVisibleSettingChanged, frame,
+                     [frame, page](bool visible) {
+                         frame->keepVisible(TFFrameState::FilterVisible, visible);
+                         page->mainView()->setFilterBarVisible(visible);
+                     });
+    QObject::connect(setting, &TFSubjectSetting::signalSubViewVisibleSettingChanged, frame,
+                     [frame, page](bool visible) {
+                         frame->keepVisible(TFFrameState::SubViewVisible, visible);
+                         page->setChildViewsVisible(visible);
+                     });
+    QObject::connect(setting, &TFSubjectSetting::signalPageBarVisibleChanged, frame,
+                     [frame, page](bool visible) {
+                         frame->keepVisible(TFFrameState::PageBarVisible, visible);
+                         page->mainView()->setPageBarVisible(visible);
+                     });
 }
 
 void bindView(TFFrameSubjectZHP *frame)
@@ -69,9 +84,10 @@ void connectChoices(TFSubjectSetting *setting, TFFrameSubjectZHP *frame)
     QObject::connect(setting, &TFSubjectSetting::signalPreviewFilters, frame,
                      [setting, frame] { preview(setting, frame); });
     QObject::connect(setting, &TFSubjectSetting::signalRefreashPage, frame, &TFFrameSubjectZHP::refreshPage);
-    QObject::connect(
-        frame->page(), &TFRightContainer::signalDataChanged, setting,
-        [setting, page = frame->page()] { setting->setFilterRows(page->mainView()->filterList()); });
+    QObject::connect(frame->page(), &TFRightContainer::signalDataChanged, setting, [setting, frame] {
+        setting->setFilterRows(frame->page()->mainView()->filterList());
+        showParts(setting, frame->state());
+    });
 }
 
 void accept(const TFSubjectSetting *setting, TFFrameSubjectZHP *frame, const QVariantMap &before)

@@ -11,10 +11,10 @@
 namespace {
 constexpr QLatin1String versionKey("version");
 constexpr QLatin1String titleVisibleKey("titleVisible");
-constexpr QLatin1String filterVisibleKey("filterVisible");
+constexpr QLatin1String filterVisibleKey = TFFrameState::FilterVisible;
+constexpr QLatin1String subViewVisibleKey = TFFrameState::SubViewVisible;
+constexpr QLatin1String pageBarVisibleKey = TFFrameState::PageBarVisible;
 constexpr QLatin1String mainViewVisibleKey("mainViewVisible");
-constexpr QLatin1String subViewVisibleKey("subViewVisible");
-constexpr QLatin1String pageBarVisibleKey("pageBarVisible");
 constexpr QLatin1String objVwIdKey("objVwId");
 constexpr QLatin1String titleKey("title");
 constexpr QLatin1String binderKeyKey("objVwIdBinder");

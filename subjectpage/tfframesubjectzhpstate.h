@@ -14,6 +14,10 @@
 /// | "filterMap" | map from field to value, the component's own filter arguments |
 struct TFFrameState
 {
+    static constexpr QLatin1String FilterVisible{"filterVisible"};
+    static constexpr QLatin1String SubViewVisible{"subViewVisible"};
+    static constexpr QLatin1String PageBarVisible{"pageBarVisible"};
+
     QString version;
     bool titleVisible = false;
     bool filterVisible = false;

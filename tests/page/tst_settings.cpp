@@ -46,6 +46,7 @@ private slots:
     void argumentsComeBackAsTheyWere();
     void folderIsNoView();
     void openingSelectsTheViewOnShow();
+    void shownPartsStayShownOnANewPage();
     void cancelPutsEverythingBack();
     void screenHearsOfChangesAlone();
     void previewShowsTheArgumentsAtOnce();
@@ -388,6 +389,24 @@ void SettingsTest::openingSelectsTheViewOnShow()
     });
 }
 
+void SettingsTest::shownPartsStayShownOnANewPage()
+{
+    TFFrameSubjectZHP fresh(m_holder.get(), "股票专题:2");
+    QSignalSpy data(fresh.page(), &TFRightContainer::signalDataChanged);
+    withDialog(&fresh, [&](QWidget *dialog) {
+        item(dialog, "债券")->treeWidget()->setCurrentItem(item(dialog, "债券"));
+        QTRY_COMPARE(data.count(), 1);
+        const auto *childBox = dialog->findChild<QCheckBox *>("cbHideChildView");
+        QVERIFY(childBox->isChecked());
+        dialog->findChild<QCheckBox *>("cbHidePageBar")->click();
+        press(dialog, "pbOk");
+    });
+    QTRY_COMPARE(data.count(), 2);
+
+    QVERIFY(fresh.page()->mainView()->isPageBarVisible());
+    QVERIFY(!fresh.page()->mainView()->isFilterBarVisible());
+}
+
 void SettingsTest::cancelPutsEverythingBack()
 {
     QVariantMap before, after;
@@ -412,7 +431,8 @@ void SettingsTest::cancelPutsEverythingBack()
 void SettingsTest::screenHearsOfChangesAlone()
 {
     const auto waitForBar = [](QWidget *dialog) {
-        QTRY_COMPARE(dialog->findChild<QLineEdit *>()->text(), QString("7"));
+        QTRY_VERIFY(dialog->findChild<QLineEdit *>());
+        QCOMPARE(dialog->findChild<QLineEdit *>()->text(), QString("7"));
     };
     withDialog(m_frame, [&](QWidget *dialog) {
         waitForBar(dialog);
@@ -437,7 +457,11 @@ void SettingsTest::previewShowsTheArgumentsAtOnce()
         press(dialog, "pbPreView");
         const auto asked = [this] {
             const auto requests = m_service->requestsFor({"/bas/subject/data", 1, 260});
-            return requests.value(requests.size() - 1).body.value("filterParams").toObject().value("CODE_0").toString();
+            return requests.value(requests.size() - 1)
+                .body.value("filterParams")
+                .toObject()
+                .value("CODE_0")
+                .toString();
         };
         QTRY_COMPARE(asked(), QString("9"));
         const int before = refreshes();
