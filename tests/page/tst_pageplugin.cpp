@@ -28,8 +28,8 @@ void TestPagePlugin::metadataNamesThePlugin()
 
     QCOMPARE(metaData["IID"].toString(), QString("TFAppPlugin"));
     QCOMPARE(metaData["className"].toString(), QString("TFSubjectPagePlugin"));
-    QCOMPARE(own.keys(), QStringList({"Arguments", "Category", "CompatVersion", "Dependencies", "Description",
-                                      "Name", "Required", "Url", "Version"}));
+    QCOMPARE(own.keys(), QStringList({"Arguments", "Category", "CompatVersion", "Components", "Dependencies",
+                                      "Description", "Name", "Required", "Url", "Version"}));
     QCOMPARE(own["Description"], own["Url"]);
     QVERIFY(url.scheme() == "view" && url.host().contains("subjectpage"));
     QCOMPARE(QUrlQuery(url).queryItemValue("title"), QString("股票专题"));
