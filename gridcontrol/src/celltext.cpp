@@ -40,6 +40,13 @@ QString displayText(const QVariant &value, const QLocale &locale)
     return needsOneLine(text) ? oneLine(text) : text;
 }
 
+QString unitOf(const QString &caption)
+{
+    static const QRegularExpression unit(
+        QStringLiteral("\\s*[(\uff08][^()\uff08\uff09]{1,16}[)\uff09]\\s*$"));
+    return unit.match(caption).captured();
+}
+
 bool isNumber(const QVariant &value)
 {
     switch (value.userType()) {

@@ -12,6 +12,9 @@ class GridColumn;
 /// What a cell shows of a value of the display role, in one line.
 QString displayText(const QVariant &value, const QLocale &locale);
 
+/// Unit in brackets at the end of a caption, with the space before it; empty without one.
+QString unitOf(const QString &caption);
+
 /// Whether the type of \a value is one of the numbers.
 bool isNumber(const QVariant &value);
 

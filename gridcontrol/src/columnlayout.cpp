@@ -30,6 +30,18 @@ const GridTableBand *topBand(const GridColumn *column)
     return top;
 }
 
+int bandPieces(const QVector<GridColumn *> &shown)
+{
+    int pieces = 0;
+    for (int i = 0; i < shown.size(); ++i)
+        for (const GridTableBand *band = shown.at(i)->parentBand(); band; band = band->parentBand()) {
+            const bool joined =
+                i > 0 && isFixed(shown.at(i - 1)) == isFixed(shown.at(i)) && band->holds(shown.at(i - 1));
+            pieces += !joined;
+        }
+    return pieces;
+}
+
 void shareWidth(const QVector<GridColumn *> &columns, const QVector<int> &weights, int total)
 {
     int left = std::accumulate(weights.begin(), weights.end(), 0);

@@ -58,6 +58,9 @@ private:
 /// allows.
 void shareWidth(const QVector<GridColumn *> &columns, const QVector<int> &weights, int total);
 
+/// Pieces in which the bands stand over \a shown: as many as there are bands if none is torn apart.
+int bandPieces(const QVector<GridColumn *> &shown);
+
 /// Whether \a item, or a band over it, is fixed.
 bool isFixed(const GridColumnBase *item);
 

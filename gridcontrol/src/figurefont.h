@@ -32,7 +32,10 @@ public:
 private:
     static constexpr int characters = 128;
 
-    bool holds(QChar letter) const { return letter.unicode() < characters && m_advances[letter.unicode()] > 0; }
+    bool holds(QChar letter) const
+    {
+        return letter.unicode() < characters && m_advances[letter.unicode()] > 0;
+    }
 
     QGlyphRun m_run;
     std::array<quint32, characters> m_glyphs{};

@@ -128,7 +128,7 @@ int AccessibleGrid::indexOfChild(const QAccessibleInterface *child) const
     if (const auto *cell = dynamic_cast<const AccessibleCell *>(child))
         return (cell->line() + 1) * columnCount() + cell->slot();
     if (const auto *caption = dynamic_cast<const AccessibleCaption *>(child))
-        return caption->firstSlot();
+        return caption->column() ? caption->firstSlot() : -1;
     return -1;
 }
 

@@ -4,7 +4,7 @@
 #include "gridarea.h"
 #include "gridheader.h"
 
-#include <gridcontrol/gridview.h>
+#include <gridcontrol/grid.h>
 
 #include <algorithm>
 
@@ -148,7 +148,36 @@ QRect AccessibleCaption::rect() const
 
 QString AccessibleCaption::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Name && isValid() ? m_item->caption() : QString();
+    if (!isValid())
+        return QString();
+    if (kind == QAccessible::Name)
+        return m_item->caption();
+    const GridViewBase *view = m_area->view();
+    if (kind != QAccessible::Description || !column() || column() != view->sortColumn())
+        return QString();
+    return view->sortState() == SortUp ? GridBase::tr("升序") : GridBase::tr("降序");
+}
+
+GridColumn *AccessibleCaption::column() const
+{
+    return qobject_cast<GridColumn *>(m_item);
+}
+
+void *AccessibleCaption::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface *>(this) : nullptr;
+}
+
+QStringList AccessibleCaption::actionNames() const
+{
+    return column() && column()->isSortEnabled() ? QStringList{QAccessibleActionInterface::pressAction()}
+                                                 : QStringList();
+}
+
+void AccessibleCaption::doAction(const QString &action)
+{
+    if (isValid() && column() && action == QAccessibleActionInterface::pressAction())
+        GridHeader::sortNext(column());
 }
 
 QAccessibleInterface *AccessibleCaption::parent() const

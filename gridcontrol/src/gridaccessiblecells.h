@@ -6,6 +6,7 @@
 namespace Qtitan {
 
 class GridArea;
+class GridColumn;
 class GridColumnBase;
 
 /// A cell to a screen reader, known by its place on the screen.
@@ -53,13 +54,18 @@ private:
 };
 
 /// A caption of the header to a screen reader: a column's, or a band's over one run of columns.
-class AccessibleCaption : public QAccessibleInterface
+///
+/// Pressing that of a column sorts as a click does; its description tells how the column sorts the rows now.
+class AccessibleCaption : public QAccessibleInterface, public QAccessibleActionInterface
 {
 public:
     AccessibleCaption(GridArea *area, GridColumnBase *item, int firstSlot);
 
     int firstSlot() const { return m_firstSlot; }
+    /// Null for a band.
+    GridColumn *column() const;
 
+    void *interface_cast(QAccessible::InterfaceType type) override;
     bool isValid() const override { return m_area && m_item; }
     QObject *object() const override { return nullptr; }
     QAccessible::Role role() const override { return QAccessible::ColumnHeader; }
@@ -72,6 +78,10 @@ public:
     QAccessibleInterface *childAt(int, int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+    QStringList actionNames() const override;
+    void doAction(const QString &action) override;
+    QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
     QPointer<GridArea> m_area;

@@ -8,6 +8,7 @@
 
 #include <gridcontrol/grid.h>
 
+#include <QAccessible>
 #include <QLayout>
 #include <QPaintEvent>
 #include <QPainter>
@@ -73,6 +74,7 @@ GridViewOptions &GridArea::options() const
 
 void GridArea::columnsChanged()
 {
+    m_header->cancelDrag();
     // Setting up a table changes each of its columns several times; it is laid out once, when it is looked
     // at.
     m_columnsDirty = true;
@@ -310,12 +312,39 @@ void GridArea::paintEvent(QPaintEvent *event)
 
 void GridArea::dataChanged(const QModelIndex &first, const QModelIndex &last, const QVector<int> &roles)
 {
-    QAbstractItemView::dataChanged(first, last, roles);
+    // The toolkit's own would repaint the whole page for more than one cell.
     if (first == last)
-        viewport()->update(visualRect(first));
+        QAbstractItemView::dataChanged(first, last, roles);
+    else if (QAccessible::isActive())
+        reportDataChanged(first, last);
+    if (isVisible() && !m_columnsDirty && first.isValid() && last.isValid())
+        viewport()->update(changedRect(first, last));
     // Captions follow the alignment of the first row.
     if (first.row() == 0)
         m_header->update();
+}
+
+QRect GridArea::changedRect(const QModelIndex &first, const QModelIndex &last) const
+{
+    const QRect lines = lineRect(first.row()).united(lineRect(last.row()));
+    QRect changed;
+    for (int slot = 0; slot < columns().count(); ++slot) {
+        const int column = columns().at(slot).column->index();
+        if (first.column() <= column && column <= last.column())
+            changed |= QRect(columns().screenLeft(slot, horizontalOffset()), lines.top(),
+                             columns().at(slot).width, lines.height());
+    }
+    return changed;
+}
+
+void GridArea::reportDataChanged(const QModelIndex &first, const QModelIndex &last)
+{
+    QAccessibleTableModelChangeEvent event(this, QAccessibleTableModelChangeEvent::DataChanged);
+    event.setFirstRow(first.row());
+    event.setLastRow(last.row());
+    event.setFirstColumn(first.column());
+    event.setLastColumn(last.column());
+    QAccessible::updateAccessibility(&event);
 }
 
 void GridArea::rowsInserted(const QModelIndex &parent, int first, int last)

@@ -143,6 +143,8 @@ private:
     QModelIndex indexFor(int line, int slot) const;
     void setHover(const CellPlace &place);
     void updateLine(int line);
+    QRect changedRect(const QModelIndex &first, const QModelIndex &last) const;
+    void reportDataChanged(const QModelIndex &first, const QModelIndex &last);
     bool followLink(int line, int slot);
     bool pressButton(int line, int slot, int button);
     bool groupKey(QKeyEvent *event);

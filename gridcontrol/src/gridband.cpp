@@ -36,14 +36,18 @@ bool GridTableBand::isDescendant(const GridTableBand *band) const
     return false;
 }
 
+bool GridTableBand::holds(const GridColumn *column) const
+{
+    const GridTableBand *parent = column->parentBand();
+    return parent && (parent == this || parent->isDescendant(this));
+}
+
 QVector<GridColumn *> GridTableBand::columns() const
 {
     QVector<GridColumn *> below;
-    for (GridColumn *column : view()->shownColumns()) {
-        const GridTableBand *parent = column->parentBand();
-        if (parent && (parent == this || parent->isDescendant(this)))
+    for (GridColumn *column : view()->shownColumns())
+        if (holds(column))
             below.append(column);
-    }
     return below;
 }
 

@@ -1,5 +1,6 @@
 #include "gridheader.h"
 
+#include "celltext.h"
 #include "gridarea.h"
 #include "gridmenu.h"
 #include "gridpainter.h"
@@ -179,8 +180,8 @@ void GridHeader::paintCell(QPainter &painter, const HeaderCell &cell, const QRec
             room = QRect(QPoint(left, room.top()), QPoint(right, room.bottom()));
     }
     const bool sorted = column && column == m_area->view()->sortColumn();
-    const TextCache::Entry entry =
-        m_texts.fitting(cell.item->caption(), room.width() - (sorted ? arrowWidth : 0));
+    const TextCache::Entry entry = m_texts.fitting(
+        cell.item->caption(), room.width() - (sorted ? arrowWidth : 0), unitOf(cell.item->caption()));
     const Qt::Alignment alignment = column ? column->cellAlignment() : Qt::Alignment(Qt::AlignHCenter);
     const int whole = entry.width + (sorted ? arrowWidth : 0);
     int x = room.left();
@@ -241,19 +242,40 @@ void GridHeader::mousePressEvent(QMouseEvent *event)
 
 void GridHeader::startDrag(const QPoint &point)
 {
+    cancelDrag();
     m_pressedAt = point;
     m_dragged = edgeAt(point);
-    m_drag = m_dragged ? Resizing : Pressed;
-    m_resized.clear();
-    m_startWidths.clear();
+    if (m_dragged)
+        return startResize();
+    m_drag = Pressed;
+    const int number = cellAt(point);
+    if (number < 0)
+        return;
+    const HeaderCell &cell = m_area->captions().cells().at(number);
+    m_dragged = cell.item;
+    for (int slot = cell.firstSlot; slot <= cell.lastSlot; ++slot)
+        m_draggedColumns.append(m_area->columns().at(slot).column);
+}
+
+void GridHeader::startResize()
+{
+    m_drag = Resizing;
     if (const auto *band = qobject_cast<GridTableBand *>(m_dragged))
-        m_resized = band->columns();
-    else if (GridColumn *column = asColumn(m_dragged))
-        m_resized.append(column);
+        m_draggedColumns = band->columns();
     else
-        m_dragged = columnAt(point);
-    for (const GridColumn *column : qAsConst(m_resized))
+        m_draggedColumns = {asColumn(m_dragged)};
+    for (const GridColumn *column : qAsConst(m_draggedColumns))
         m_startWidths.append(column->width());
+}
+
+void GridHeader::cancelDrag()
+{
+    m_drag = NoDrag;
+    m_dragged = nullptr;
+    m_draggedColumns.clear();
+    m_startWidths.clear();
+    m_dropX = -1;
+    m_dropAllowed = false;
 }
 
 void GridHeader::mouseMoveEvent(QMouseEvent *event)
@@ -264,12 +286,11 @@ void GridHeader::mouseMoveEvent(QMouseEvent *event)
         break;
     case Resizing:
         shareWidth(
-            m_resized, m_startWidths,
+            m_draggedColumns, m_startWidths,
             std::accumulate(m_startWidths.begin(), m_startWidths.end(), event->pos().x() - m_pressedAt.x()));
         break;
     case Pressed:
-        if (asColumn(m_dragged) &&
-            (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance())
+        if (m_dragged && (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance())
             m_drag = Moving;
         break;
     case Moving:
@@ -278,30 +299,35 @@ void GridHeader::mouseMoveEvent(QMouseEvent *event)
     }
 }
 
+// Beside the caption under the pointer, or else beside the innermost of its bands where the dragged ones may
+// stand.
 void GridHeader::updateDropPlace(const QPoint &point)
 {
-    const int offset = m_area->horizontalScrollBar()->value();
-    int slot = m_area->columns().slotAt(point.x(), offset);
-    const bool beyond = slot < 0;
-    if (beyond)
-        slot = m_area->columns().count() - 1;
-    const QRect rect(m_area->columns().screenLeft(slot, offset), 0, m_area->columns().at(slot).width,
-                     height());
-    const bool after = beyond || point.x() > rect.center().x();
-    m_dropX = after ? rect.right() + 1 : rect.left();
-    const int before = after ? slot + 1 : slot;
-    m_dropBefore = before < m_area->columns().count() ? m_area->columns().at(before).column : nullptr;
-    m_dropAllowed = m_area->view()->canMoveColumn(asColumn(m_dragged), m_dropBefore);
+    const ColumnLayout &columns = m_area->columns();
+    int slot = columns.slotAt(qMax(0, point.x()), m_area->horizontalScrollBar()->value());
+    if (slot < 0)
+        slot = columns.count() - 1;
+    const QVector<HeaderCell> &cells = m_area->captions().cells();
+    m_dropAllowed = false;
+    for (auto cell = cells.crbegin(); !m_dropAllowed && cell != cells.crend(); ++cell) {
+        if (slot < cell->firstSlot || cell->lastSlot < slot)
+            continue;
+        const QRect rect = cellRect(*cell);
+        const bool behind = point.x() > rect.center().x();
+        const int before = behind ? cell->lastSlot + 1 : cell->firstSlot;
+        m_dropX = behind ? rect.right() + 1 : rect.left();
+        m_dropBefore = before < columns.count() ? columns.at(before).column : nullptr;
+        m_dropAllowed = m_area->view()->canMoveColumns(m_draggedColumns, m_dropBefore);
+    }
     setCursor(m_dropAllowed ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
     update();
 }
 
 void GridHeader::finishMove()
 {
+    const QVector<GridColumn *> moved = m_draggedColumns;
     if (m_dropAllowed)
-        m_area->view()->moveColumn(asColumn(m_dragged), m_dropBefore);
-    m_dropX = -1;
-    m_dropAllowed = false;
+        m_area->view()->moveColumns(moved, m_dropBefore);
     setCursor(Qt::ArrowCursor);
     update();
 }
@@ -310,16 +336,19 @@ void GridHeader::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    const Drag drag = m_drag;
-    m_drag = NoDrag;
-    if (drag == Moving) {
+    GridColumn *column = asColumn(m_dragged);
+    const bool clicked = m_drag == Pressed && column && columnAt(event->pos()) == column;
+    if (m_drag == Moving)
         finishMove();
-    } else if (drag == Pressed && m_dragged && columnAt(event->pos()) == m_dragged) {
-        GridColumn *column = asColumn(m_dragged);
-        if (column->isSortEnabled())
-            m_area->view()->sortByColumn(column, nextState(column));
-    }
-    m_dragged = nullptr;
+    cancelDrag();
+    if (clicked)
+        sortNext(column);
+}
+
+void GridHeader::sortNext(GridColumn *column)
+{
+    if (column->isSortEnabled())
+        column->view()->sortByColumn(column, nextState(column));
 }
 
 int GridHeader::nextState(const GridColumn *column)

@@ -32,6 +32,9 @@ public:
     /// Repaints after the scrolling columns went \a dx pixels to the right.
     void scrollColumns(int dx);
 
+    /// Ends a drag without an effect; for when columns go.
+    void cancelDrag();
+
     /// Item whose right edge is under \a point: a column, or a band on the band's own level. Null for none.
     GridColumnBase *edgeAt(const QPoint &point) const;
     GridColumn *columnAt(const QPoint &point) const;
@@ -39,6 +42,8 @@ public:
 
     /// Gives an item, or every column below a band, the width that its visible texts want.
     static void fitWidth(GridColumnBase *item);
+    /// Does what a click on the caption of \a column does.
+    static void sortNext(GridColumn *column);
     /// Sort state that a click on the caption leads to next.
     static int nextState(const GridColumn *column);
 
@@ -63,6 +68,7 @@ private:
     void paintEdges(QPainter &painter, const HeaderCell &cell, const QRect &rect, qreal pixel) const;
     void paintArrow(QPainter &painter, const QRectF &rect, bool up) const;
     void startDrag(const QPoint &point);
+    void startResize();
     void updateDropPlace(const QPoint &point);
     void finishMove();
 
@@ -71,7 +77,7 @@ private:
     Drag m_drag = NoDrag;
     QPoint m_pressedAt;
     GridColumnBase *m_dragged = nullptr;
-    QVector<GridColumn *> m_resized;
+    QVector<GridColumn *> m_draggedColumns; ///< resized or moved together
     QVector<int> m_startWidths;
     int m_dropX = -1;
     GridColumn *m_dropBefore = nullptr;

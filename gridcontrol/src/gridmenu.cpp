@@ -28,6 +28,24 @@ void addSortActions(QMenu &menu, GridColumn *column)
     menu.addSeparator();
 }
 
+// To the next place on one side where the column may stand.
+void addMoveAction(QMenu &menu, const QString &text, GridColumn *column, int step)
+{
+    GridViewBase *view = column->view();
+    const QVector<GridColumn *> shown = view->shownColumns();
+    QAction *action = menu.addAction(text);
+    action->setEnabled(false);
+    for (int place = shown.indexOf(column) + step; place >= 0 && place <= shown.size(); place += step) {
+        GridColumn *before = shown.value(place);
+        if (!view->canMoveColumns({column}, before))
+            continue;
+        action->setEnabled(true);
+        QObject::connect(action, &QAction::triggered, column,
+                         [view, column, before] { view->moveColumns({column}, before); });
+        return;
+    }
+}
+
 void addLayoutActions(QMenu &menu, GridViewBase *view, GridColumn *column)
 {
     menu.addSeparator();
@@ -77,6 +95,10 @@ void fillCellMenu(QMenu &menu, GridArea &area)
         menu.addAction(GridBase::tr("复制单元格"), [text] { QApplication::clipboard()->setText(text); })
             ->setEnabled(!text.isEmpty());
     }
+    if (slot >= 0) {
+        GridColumn *column = area.columns().at(slot).column;
+        fillHeaderMenu(*menu.addMenu(GridBase::tr("列: %1").arg(column->caption())), area, column);
+    }
     menu.addSeparator();
     menu.addAction(GridBase::tr("全选"), &area, &QAbstractItemView::selectAll, QKeySequence::SelectAll)
         ->setEnabled(area.options().selectionPolicy() >= CellSelection);
@@ -94,6 +116,11 @@ void fillHeaderMenu(QMenu &menu, GridArea &area, GridColumn *column)
         for (GridColumn *shown : area.view()->shownColumns())
             GridHeader::fitWidth(shown);
     });
+    if (column) {
+        menu.addSeparator();
+        addMoveAction(menu, GridBase::tr("左移"), column, -1);
+        addMoveAction(menu, GridBase::tr("右移"), column, 1);
+    }
     if (!area.options().isMainMenuDisabled())
         addLayoutActions(menu, area.view(), column);
 }

@@ -11,7 +11,8 @@ namespace Qtitan {
 class GridArea;
 class GridColumn;
 
-/// Fills the context menu of the cells.
+/// Fills the context menu of the cells; that of the header is in it, so that the keyboard reaches all of
+/// both.
 void fillCellMenu(QMenu &menu, GridArea &area);
 
 /// Fills the context menu of the header, for \a column, or for the header beside all columns if it is null.

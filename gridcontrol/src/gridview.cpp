@@ -153,30 +153,45 @@ QVector<GridColumn *> GridViewBase::shownColumns() const
     return shown;
 }
 
-bool GridViewBase::canMoveColumn(const GridColumn *column, const GridColumn *before) const
+// Shown columns as they would stand; none if they may not.
+QVector<GridColumn *> GridViewBase::orderAfterMove(const QVector<GridColumn *> &columns,
+                                                   GridColumn *before) const
 {
     const QVector<GridColumn *> shown = shownColumns();
-    const int from = shown.indexOf(const_cast<GridColumn *>(column));
-    const int to = before ? shown.indexOf(const_cast<GridColumn *>(before)) : shown.size();
-    if (from < 0 || to < 0 || to == from || to == from + 1)
-        return false;
-    // Everything that the column passes has to be of its band and on its side of the fixed edge.
-    const auto passable = [&](const GridColumn *other) {
-        return other->parentBand() == column->parentBand() ||
-               (!column->parentBand() && !other->parentBand()) || (!topBand(column) && !topBand(other));
-    };
-    for (int i = qMin(from, to); i <= qMax(from, to - 1); ++i)
-        if (!passable(shown.at(i)) || isFixed(shown.at(i)) != isFixed(column))
-            return false;
-    return true;
+    QVector<GridColumn *> order = shown;
+    for (GridColumn *column : columns)
+        if (!order.removeOne(column))
+            return {};
+    const int place = before ? order.indexOf(before) : order.size();
+    if (place < 0)
+        return {};
+    for (int i = 0; i < columns.size(); ++i)
+        order.insert(place + i, columns.at(i));
+    const bool allowed = order != shown && std::is_partitioned(order.begin(), order.end(), isFixed) &&
+                         bandPieces(order) <= bandPieces(shown);
+    return allowed ? order : QVector<GridColumn *>();
 }
 
-bool GridViewBase::moveColumn(GridColumn *column, GridColumn *before)
+bool GridViewBase::canMoveColumns(const QVector<GridColumn *> &columns, GridColumn *before) const
 {
-    if (!canMoveColumn(column, before))
+    return !orderAfterMove(columns, before).isEmpty();
+}
+
+bool GridViewBase::moveColumns(const QVector<GridColumn *> &columns, GridColumn *before)
+{
+    const QVector<GridColumn *> order = orderAfterMove(columns, before);
+    if (order.isEmpty())
         return false;
-    m_order.removeOne(column);
-    m_order.insert(before ? m_order.indexOf(before) : m_order.size(), column);
+    for (GridColumn *column : columns)
+        m_order.removeOne(column);
+    // Next to a neighbour of their own side: among the columns that are not shown or on the other side of the
+    // edge nothing changes.
+    const int first = order.indexOf(columns.first());
+    const bool hasLeft = first > 0 && isFixed(order.at(first - 1)) == isFixed(columns.first());
+    const int place = hasLeft ? m_order.indexOf(order.at(first - 1)) + 1
+                              : m_order.indexOf(order.at(first + columns.size()));
+    for (int i = 0; i < columns.size(); ++i)
+        m_order.insert(place + i, columns.at(i));
     m_area->columnsChanged();
     emit columnsChanged();
     return true;

@@ -47,12 +47,13 @@ void RowModel::connectSource()
     connectRows(&Model::rowsAboutToBeRemoved, &Model::rowsRemoved, &RowModel::beginRemoveRows,
                 &RowModel::endRemoveRows);
     connect(sourceModel(), &Model::dataChanged, this, &RowModel::sourceDataChanged);
-    connect(sourceModel(), &Model::headerDataChanged, this, [this](Qt::Orientation side, int first, int last) {
-        if (m_columns != sourceModel()->columnCount(m_root))
-            resetFromSource();
-        else if (side == Qt::Horizontal && first <= last)
-            emit headerDataChanged(side, qMax(first, 0), qMin(last, m_columns - 1));
-    });
+    connect(sourceModel(), &Model::headerDataChanged, this,
+            [this](Qt::Orientation side, int first, int last) {
+                if (m_columns != sourceModel()->columnCount(m_root))
+                    resetFromSource();
+                else if (side == Qt::Horizontal && first <= last)
+                    emit headerDataChanged(side, qMax(first, 0), qMin(last, m_columns - 1));
+            });
     connect(sourceModel(), &QObject::destroyed, this, &RowModel::forgetSource);
 }
 

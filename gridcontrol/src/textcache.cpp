@@ -70,13 +70,16 @@ TextCache::Entry TextCache::whole(const QString &text)
     });
 }
 
-TextCache::Entry TextCache::fitting(const QString &text, int width)
+TextCache::Entry TextCache::fitting(const QString &text, int width, const QString &kept)
 {
     Entry entry = whole(text);
     if (entry.width <= width)
         return entry;
     const QString shorter = m_elided.value(qMakePair(text, width), [&] {
-        return m_metrics.elidedText(text.left(longestText), Qt::ElideRight, width);
+        const qreal room = width - m_metrics.horizontalAdvance(kept);
+        if (kept.isEmpty() || room < 2 * m_metrics.height())
+            return m_metrics.elidedText(text.left(longestText), Qt::ElideRight, width);
+        return m_metrics.elidedText(text.chopped(kept.size()), Qt::ElideRight, room) + kept;
     });
     entry = whole(shorter);
     entry.elided = true;

@@ -34,8 +34,9 @@ public:
     /// \a text at its natural width.
     Entry whole(const QString &text);
 
-    /// \a text, elided at its end where it is wider than \a width pixels.
-    Entry fitting(const QString &text, int width);
+    /// \a text, elided where it is wider than \a width pixels: at its end, or before \a kept, with which it
+    /// ends, as long as that leaves room for more than the ellipsis.
+    Entry fitting(const QString &text, int width, const QString &kept = QString());
 
     /// Draws \a entry in the pen of \a painter, which has the font of this cache.
     void draw(QPainter &painter, int left, int top, const Entry &entry);

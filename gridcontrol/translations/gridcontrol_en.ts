@@ -28,6 +28,18 @@
         <translation>Original order</translation>
     </message>
     <message>
+        <source>左移</source>
+        <translation>Move left</translation>
+    </message>
+    <message>
+        <source>右移</source>
+        <translation>Move right</translation>
+    </message>
+    <message>
+        <source>列: %1</source>
+        <translation>Column: %1</translation>
+    </message>
+    <message>
         <source>按此列分组</source>
         <translation>Group by this column</translation>
     </message>

@@ -13,7 +13,7 @@
 
 using namespace Qtitan;
 
-/// A model of \a rows and \a columns whose cells read "r0c0" and whose captions read "c0".
+/// Makes \a model one of \a rows and \a columns whose cells read "r0c0" and whose captions read "c0".
 inline void fill(QStandardItemModel &model, int rows, int columns)
 {
     model.setRowCount(rows);
@@ -24,6 +24,55 @@ inline void fill(QStandardItemModel &model, int rows, int columns)
             model.setItem(row, column, new QStandardItem(QStringLiteral("r%1c%2").arg(row).arg(column)));
     }
 }
+
+/// A plain grid of columns of 100 pixels, shown.
+struct Table
+{
+    explicit Table(int rows = 20, int columns = 4)
+    {
+        fill(model, rows, columns);
+        view = grid.rootView();
+        view->setModel(&model);
+        for (int i = 0; i < columns; ++i)
+            view->getColumn(i)->setWidth(100);
+        grid.resize(500, 300);
+        grid.show();
+    }
+
+    GridArea &area() { return *view->area(); }
+    QWidget *viewport() { return area().viewport(); }
+    QPoint middle(int line, int slot) { return area().cellRect(line, slot).center(); }
+    void click(const QPoint &point, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(viewport(), Qt::LeftButton, keys, point);
+    }
+    void makeLinks(int column)
+    {
+        view->getColumn(column)->setEditorType(StringEditor);
+        static_cast<GridStringEditorRepository *>(view->getColumn(column)->editorRepository())
+            ->setHLink(true);
+    }
+
+    QStandardItemModel model;
+    Grid grid;
+    GridViewBase *view;
+};
+
+/// What was painted of a widget since it is watched.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
+    QRect painted;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted |= static_cast<QPaintEvent *>(event)->rect();
+        return false;
+    }
+};
 
 /// The captions of the header as text, one cell a string: "caption level+levels slots".
 inline QStringList captionsOf(const GridArea &area)

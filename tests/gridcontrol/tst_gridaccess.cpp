@@ -12,6 +12,7 @@ private slots:
     void tableIsOneAcrossTheFrozenEdge();
     void headerCellsAreTheWholePath();
     void groupRowTellsItsStateAndToggles();
+    void captionSortsAndTells();
     void selectionIsReadAndSet();
     void cellOfARowThatWentIsInvalid();
 
@@ -82,6 +83,28 @@ void GridAccessTest::groupRowTellsItsStateAndToggles()
     group->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QVERIFY(interfaceOf(grid)->tableInterface()->cellAt(0, 0)->state().expanded);
     QCOMPARE(interfaceOf(grid)->tableInterface()->rowCount(), 3);
+}
+
+void GridAccessTest::captionSortsAndTells()
+{
+    QStandardItemModel model;
+    fill(model, 3, 2);
+    Grid grid;
+    grid.rootView()->setModel(&model);
+    grid.rootView()->getColumn(1)->setSortEnabled(false);
+    QAccessibleInterface *table = interfaceOf(grid);
+    const auto press = [&](int column) {
+        QAccessibleInterface *caption = table->child(column);
+        caption->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        return caption->text(QAccessible::Description);
+    };
+
+    QCOMPARE(press(0), QString("升序"));
+    QCOMPARE(press(0), QString("降序"));
+    QCOMPARE(grid.rootView()->visibleRows(), QVector<int>({2, 1, 0}));
+    QCOMPARE(press(1), QString());
+    QVERIFY(table->child(1)->actionInterface()->actionNames().isEmpty());
+    QCOMPARE(grid.rootView()->sortColumn(), grid.rootView()->getColumn(0));
 }
 
 void GridAccessTest::selectionIsReadAndSet()

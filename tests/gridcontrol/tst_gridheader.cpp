@@ -1,3 +1,4 @@
+#include "celltext.h"
 #include "gridfixture.h"
 
 #include <subjecttest.h>
@@ -19,7 +20,10 @@ private slots:
     void dragOfALeafEdgeResizesThatColumn();
     void dragOfABandEdgeSharesTheWidth();
     void doubleClickFitsTheVisibleRowsOnly();
-    void columnMovesWithinItsBandOnly();
+    void moveLeavesEveryBandInOnePiece();
+    void dragMovesColumnsAndBands();
+    void elidedCaptionKeepsItsUnit_data();
+    void elidedCaptionKeepsItsUnit();
     void clickGoesThroughThreeSortStates();
     void tooManyFixedColumnsStillScroll();
     void captionTooLongShowsAToolTip();
@@ -205,20 +209,72 @@ void GridHeaderTest::doubleClickFitsTheVisibleRowsOnly()
     QVERIFY(column->width() > narrow * 4);
 }
 
-void GridHeaderTest::columnMovesWithinItsBandOnly()
+void GridHeaderTest::moveLeavesEveryBandInOnePiece()
+{
+    Banded banded(6);
+    GridTableBand *year = banded.band("year", {});
+    banded.band("full", {0, 1}, year);
+    banded.band("half", {2, 3}, year);
+    GridViewBase &view = *banded.view;
+    const auto move = [&](const QVector<int> &columns, int before) {
+        QVector<GridColumn *> moved;
+        for (int column : columns)
+            moved.append(view.getColumn(column));
+        view.moveColumns(moved, view.getColumn(before));
+        return shownCaptions(view).join(' ');
+    };
+
+    QCOMPARE(move({0}, 2), QString("c1 c0 c2 c3 c4 c5"));
+    QCOMPARE(move({1}, 3), QString("c1 c0 c2 c3 c4 c5")); // out of its band
+    QCOMPARE(move({5}, 3), QString("c1 c0 c2 c3 c4 c5")); // into a foreign one
+    QCOMPARE(move({2, 3}, 1), QString("c2 c3 c1 c0 c4 c5"));
+    QCOMPARE(move({1, 0}, 5), QString("c2 c3 c1 c0 c4 c5")); // out of the year
+    QCOMPARE(move({5}, 2), QString("c5 c2 c3 c1 c0 c4"));
+    QCOMPARE(move({2, 3, 1, 0}, -1), QString("c5 c4 c2 c3 c1 c0"));
+
+    view.getColumn(2)->setFixedKind(FixedLeft);
+    QCOMPARE(move({2}, 0), QString("c2 c5 c4 c3 c1 c0"));
+    QCOMPARE(move({4}, 5), QString("c2 c4 c5 c3 c1 c0"));
+}
+
+void GridHeaderTest::dragMovesColumnsAndBands()
 {
     Banded banded;
-    banded.band("band", {0, 1, 2});
+    GridTableBand *band = banded.band("band", {1, 2});
     GridViewBase &view = *banded.view;
+    const auto dragTo = [&](const GridColumnBase *item, int x) {
+        const QPoint from = banded.rightEdge(item) - QPoint(30, 0);
+        drag(banded.area().header(), from, QPoint(x, from.y()));
+        return shownCaptions(view).join(' ');
+    };
 
-    QVERIFY(view.moveColumn(view.getColumn(0), view.getColumn(3)));
-    QCOMPARE(shownCaptions(view), QStringList({"c1", "c2", "c0", "c3", "c4"}));
-    QVERIFY(!view.moveColumn(view.getColumn(1), nullptr));
-    QVERIFY(!view.moveColumn(view.getColumn(3), view.getColumn(1)));
+    QCOMPARE(dragTo(view.getColumn(2), 120), QString("c0 c2 c1 c3 c4"));
+    QCOMPARE(dragTo(band, 480), QString("c0 c3 c4 c2 c1"));
+    // Over a foreign band a column goes beside the whole of it.
+    QCOMPARE(dragTo(view.getColumn(0), 460), QString("c3 c4 c2 c1 c0"));
+    QCOMPARE(view.sortColumn(), nullptr);
+}
 
-    const QPoint from = banded.rightEdge(view.getColumn(0)) - QPoint(50, 0);
-    drag(banded.area().header(), from, QPoint(20, from.y()));
-    QCOMPARE(shownCaptions(view), QStringList({"c0", "c1", "c2", "c3", "c4"}));
+void GridHeaderTest::elidedCaptionKeepsItsUnit_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("revenue of the year(USD)") << "(USD)";
+    QTest::newRow("revenue of the year ( % )") << " ( % )";
+    QTest::newRow("(no) revenue of the year") << "";
+}
+
+void GridHeaderTest::elidedCaptionKeepsItsUnit()
+{
+    QFETCH(QString, unit);
+    TextCache texts{QFont()};
+    const QString caption = QTest::currentDataTag();
+    const int room = texts.whole("revenue " + unit).width;
+
+    QCOMPARE(unitOf(caption), unit);
+    QVERIFY(texts.fitting(caption, room, unit)
+                .text.text()
+                .endsWith(unit.isEmpty() ? QString(QChar(0x2026)) : unit));
+    QVERIFY(texts.fitting(caption, room, unit).width <= room);
 }
 
 void GridHeaderTest::clickGoesThroughThreeSortStates()
@@ -274,25 +330,15 @@ void GridHeaderTest::captionTooLongShowsAToolTip()
 
 void GridHeaderTest::widthChangeRepaintsNothingToTheLeft()
 {
-    struct Watch : QObject
-    {
-        QRegion painted;
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            if (event->type() == QEvent::Paint)
-                painted += static_cast<QPaintEvent *>(event)->region();
-            return false;
-        }
-    } watch;
     Banded banded;
     QVERIFY(QTest::qWaitForWindowExposed(&banded.grid));
     QApplication::processEvents();
-    banded.area().header()->installEventFilter(&watch);
+    PaintWatch header(banded.area().header());
 
     banded.view->getColumn(2)->setWidth(120);
 
-    QTRY_VERIFY(!watch.painted.isEmpty());
-    QCOMPARE(watch.painted.boundingRect().left(), 200);
+    QTRY_VERIFY(!header.painted.isEmpty());
+    QCOMPARE(header.painted.left(), 200);
 }
 
 SUBJECT_TEST_MAIN(GridHeaderTest)

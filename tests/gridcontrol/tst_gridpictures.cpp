@@ -9,8 +9,8 @@
 #include <QDir>
 #include <QFontInfo>
 
-/// Compares pictures of three layouts in two skins with the ones in pictures/. With GRID_WRITE_PICTURES set it
-/// writes those instead.
+/// Compares pictures of three layouts in two skins with the ones in pictures/. With GRID_WRITE_PICTURES set
+/// it writes those instead.
 class GridPicturesTest : public SubjectTest
 {
     Q_OBJECT

@@ -5,7 +5,6 @@
 #include <quotemodel.h>
 
 #include <QAbstractItemModelTester>
-#include <QElapsedTimer>
 
 class GridRowsTest : public SubjectTest
 {
@@ -25,7 +24,7 @@ private slots:
     void silentlyExchangedRowsAreSeen();
     void changedValueFindsItsNewPlace();
     void rootThatVanishesLeavesAnEmptyTable();
-    void hundredThousandRowsArrangeWithoutStrings();
+    void arrangingReadsEachRowOnce();
 };
 
 namespace {
@@ -291,27 +290,28 @@ void GridRowsTest::rootThatVanishesLeavesAnEmptyTable()
     QCOMPARE(rows.rowCount(), 0);
 }
 
-void GridRowsTest::hundredThousandRowsArrangeWithoutStrings()
+void GridRowsTest::arrangingReadsEachRowOnce()
 {
-    QuoteModel model(100000, 8);
+    struct Counting : QuoteModel
+    {
+        using QuoteModel::QuoteModel;
+        mutable int reads = 0;
+        QVariant data(const QModelIndex &index, int role) const override
+        {
+            ++reads;
+            return QuoteModel::data(index, role);
+        }
+    } model(1000, 8);
     RowModel rows;
     rows.setSource(&model, {});
-    QElapsedTimer elapsed;
-    elapsed.start();
 
     rows.setSortOrder({QuoteModel::Name, QuoteModel::valueRole, false, true, QLocale(QLocale::Chinese)});
-    const qint64 sorted = elapsed.restart();
+    QCOMPARE(model.reads, 1000);
     rows.setSortOrder({});
     rows.setGroupColumns({QuoteModel::Board});
     rows.setAllOpen(true);
-    const qint64 grouped = elapsed.elapsed();
-
-    QCOMPARE(rows.order().groupCount(), 4);
-    QCOMPARE(rows.rowCount(), 100004);
-    // Loose enough for a debug build with sanitizers on a busy machine, and far below the cost of comparing
-    // texts.
-    QVERIFY2(sorted < 5000, qPrintable(QString::number(sorted)));
-    QVERIFY2(grouped < 5000, qPrintable(QString::number(grouped)));
+    QCOMPARE(model.reads, 2000);
+    QCOMPARE(rows.rowCount(), 1004);
 }
 
 SUBJECT_TEST_MAIN(GridRowsTest)

@@ -26,6 +26,9 @@ public:
     /// Whether this band stands below \a band, at any depth. False for the band itself.
     bool isDescendant(const GridTableBand *band) const;
 
+    /// Whether \a column stands below this band, at any depth.
+    bool holds(const GridColumn *column) const;
+
     /// Sum of the widths of the shown columns under the band.
     int width() const override;
     void setWidth(int pixels) override;

@@ -55,10 +55,11 @@ public:
     /// Shown columns from left to right, fixed ones first.
     QVector<GridColumn *> shownColumns() const;
 
-    /// Moves \a column before \a before (null: behind all). Only within the same band and on the same side of
-    /// the fixed edge; false, and nothing moves, otherwise.
-    bool moveColumn(GridColumn *column, GridColumn *before);
-    bool canMoveColumn(const GridColumn *column, const GridColumn *before) const;
+    /// Moves shown columns that stand side by side, one or all of a band, before \a before (null: behind
+    /// all). Every band stays in one piece and each column on its side of the fixed edge; false, and nothing
+    /// moves, otherwise or where they stand there already.
+    bool moveColumns(const QVector<GridColumn *> &columns, GridColumn *before);
+    bool canMoveColumns(const QVector<GridColumn *> &columns, GridColumn *before) const;
 
     /// Sorts by \a column, of SortState \a state; a null column or AsDelivered gives the order of the model.
     /// Stable. Within groups if the rows are grouped. Values that are missing come last either way.
@@ -124,6 +125,7 @@ protected:
 private:
     void syncColumns();
     void watch(GridColumn *column);
+    QVector<GridColumn *> orderAfterMove(const QVector<GridColumn *> &columns, GridColumn *before) const;
     void regroup();
 
     GridBase *m_grid;
