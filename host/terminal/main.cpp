@@ -1,6 +1,8 @@
 #include "options.h"
 #include "terminal.h"
 
+#include "tfcore/tfwebprocesses.h"
+
 #include <QApplication>
 
 #include <cstdio>
@@ -19,6 +21,7 @@ void prepareToolkit()
     // The web engine refuses to start its sandbox for root.
     if (geteuid() == 0 && !qEnvironmentVariableIsSet("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    TFWebProcesses::shareBySite();
 }
 
 int printInstead(const ParsedOptions &parsed, int argc, char *argv[])

@@ -7,6 +7,7 @@
 #include "records/tfancestors.h"
 #include "records/tfcategories.h"
 #include "tfcore/tfcore.h"
+#include "tfcore/tfwebprocesses.h"
 
 #include <QClipboard>
 #include <QDateTime>
@@ -96,6 +97,7 @@ TFMultiCharts::~TFMultiCharts()
 
 void TFMultiCharts::createPage()
 {
+    TFWebProcesses::shareBySite();
     m_page = new PreviewPage(this);
     m_webView = new QWebEngineView(this);
     m_webView->setPage(m_page);
