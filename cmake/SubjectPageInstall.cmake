@@ -26,7 +26,7 @@ install(TARGETS tfcontract tfconfig tfcore gridcontrol subjectcore subjectui EXP
 install(DIRECTORY subjectpage/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/subjectpage FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY gridcontrol/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/subjectpage/gridcontrol
         FILES_MATCHING PATTERN "*.h")
-install(DIRECTORY demo/views DESTINATION ${data_dir})
+install(DIRECTORY demo/views host/terminal/config DESTINATION ${data_dir})
 
 install(EXPORT SubjectPageTargets NAMESPACE SubjectPage:: DESTINATION ${package_dir})
 configure_package_config_file(${CMAKE_SOURCE_DIR}/cmake/SubjectPageConfig.cmake.in

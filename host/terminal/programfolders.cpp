@@ -52,5 +52,5 @@ QString ProgramFolders::views()
 QStringList ProgramFolders::config()
 {
     return {QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation), beside("config"),
-            beside("../share/subjectpage/config")};
+            beside("../bin/config"), beside("../share/subjectpage/config")};
 }

@@ -12,12 +12,16 @@
 
 #include "subjecttest.h"
 
+#include <QComboBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QThreadPool>
+#include <QTimer>
+#include <QTreeWidget>
 
 namespace {
 constexpr int PatienceMs = 30000;
-enum View { Catalogue = 47812, History = 47813, Yearly = 47814 };
+enum View { Prices = 47811, History = 47813, Yearly = 47814 };
 
 QVariantMap stateOf(int view, const QString &binder, const QVariantMap &own)
 {
@@ -62,7 +66,10 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(terminal->window().findChild<ScreenTab *>(), PatienceMs);
         ScreenTab *tab = terminal->window().findChild<ScreenTab *>();
         tab->arguments().setValues({{"CODE", "gold"}, {"view", QString("历史价格|%1").arg(History)}});
-        ScreenCell *first = add(tab, stateOf(Catalogue, "", {{"CODE", ""}, {"view", ""}}));
+        ScreenCell *first = tab->view().add("TFFrameSubjectZHP");
+        chooseView(first, "商品专题", "商品价格明细");
+        QCOMPARE(first->component().state.value("objVwId").toInt(), int(Prices));
+        configure(first, stateOf(Prices, "", {{"CODE", ""}, {"view", ""}}));
         add(tab, stateOf(Yearly, "", {}));
         ScreenCell *third = tab->view().add("TFFrameSubjectZHP", Qt::Vertical, first);
         configure(third, stateOf(1, "view", {{"CODE", "silver"}}));
@@ -76,8 +83,8 @@ private:
         QVERIFY(service.start());
         QProcess program;
         program.start(PROJECT_BINARY_DIR "/bin/subject-terminal", {"--service", service.address()});
-        QTRY_VERIFY_WITH_TIMEOUT(
-            asked(service, Catalogue) && asked(service, Yearly) && asked(service, History), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(asked(service, Prices) && asked(service, Yearly) && asked(service, History),
+                                 PatienceMs);
         QCOMPARE(LoggedService::boundValue(service.rowRequests(Yearly).last(), "CODE"), QString("gold"));
         QCOMPARE(LoggedService::boundValue(service.rowRequests(History).last(), "CODE"), QString("silver"));
         program.kill();
@@ -89,11 +96,11 @@ private:
         LoggedService service;
         QVERIFY(service.start());
         const auto terminal = start(service, {m_path});
-        QTRY_VERIFY_WITH_TIMEOUT(
-            asked(service, Catalogue) && asked(service, Yearly) && asked(service, History), PatienceMs);
+        QTRY_VERIFY_WITH_TIMEOUT(asked(service, Prices) && asked(service, Yearly) && asked(service, History),
+                                 PatienceMs);
         settle();
         ScreenTab *tab = terminal->window().findChild<ScreenTab *>();
-        const int catalogue = service.rowRequests(Catalogue).size();
+        const int prices = service.rowRequests(Prices).size();
         const int history = service.rowRequests(History).size();
         const int yearly = service.rowRequests(Yearly).size();
 
@@ -103,14 +110,14 @@ private:
         settle();
         QCOMPARE(service.rowRequests(Yearly).size(), yearly + 1);
         QCOMPARE(LoggedService::boundValue(service.rowRequests(Yearly).last(), "CODE"), QString("silver"));
-        QCOMPARE(service.rowRequests(Catalogue).size(), catalogue);
+        QCOMPARE(service.rowRequests(Prices).size(), prices);
         QCOMPARE(service.rowRequests(History).size(), history);
 
         args["view"] = QString("逐年统计|%1").arg(Yearly);
         tab->arguments().setValues(args);
         settle();
         QCOMPARE(tab->view().cells().at(1)->widget()->property("objVwId").toInt(), int(Yearly));
-        QCOMPARE(service.rowRequests(Catalogue).size(), catalogue);
+        QCOMPARE(service.rowRequests(Prices).size(), prices);
         QCOMPARE(service.rowRequests(History).size(), history);
         stop(terminal.get());
     }
@@ -142,6 +149,22 @@ private:
     {
         dynamic_cast<ITFMemory *>(cell->widget())->restore(state);
         InvokerBase().invoke(cell->property("zhpObj").value<QObject *>(), "settingsChanged");
+    }
+
+    /// As a user does it in the component's own settings.
+    static void chooseView(ScreenCell *cell, const QString &topic, const QString &leaf)
+    {
+        QTimer::singleShot(0, cell, [topic, leaf] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            auto *topics = dialog->findChild<QComboBox *>("cbNodeCode");
+            auto *tree = dialog->findChild<QTreeWidget *>("twNavTree");
+            const auto find = [&] { return tree->findItems(leaf, Qt::MatchExactly | Qt::MatchRecursive); };
+            topics->setCurrentIndex(topics->findText(topic, Qt::MatchStartsWith));
+            QTRY_VERIFY_WITH_TIMEOUT(!find().isEmpty(), PatienceMs);
+            tree->setCurrentItem(find().first());
+            dialog->findChild<QPushButton *>("pbOk")->click();
+        });
+        cell->openSettings();
     }
 
     static bool asked(LoggedService &service, int view) { return !service.rowRequests(view).isEmpty(); }
