@@ -103,10 +103,15 @@ Result<QVariant> Database::singleValue(const BoundSql &sql)
 
 void Database::forgetCountsAfterChange()
 {
-    const Result<QVariant> version = singleValue({dialect().versionQuery(), {}});
-    if (!version.ok() || version.value() != m_version || m_counts.size() >= MaxCounts)
+    QVariant version;
+    if (m_tellsVersion) {
+        const Result<QVariant> told = singleValue({dialect().versionQuery(), {}});
+        m_tellsVersion = told.ok() || m_lastFault.kind != DatabaseFault::Statement;
+        version = told.ok() ? told.value() : QVariant();
+    }
+    if (!version.isValid() || version != m_version || m_counts.size() >= MaxCounts)
         m_counts.clear();
-    m_version = version.ok() ? version.value() : QVariant();
+    m_version = version;
 }
 
 Result<qint64> Database::count(const BoundSql &sql)

@@ -73,6 +73,7 @@ private:
     QHash<QString, qint64> m_counts;
     DatabaseFault m_lastFault;
     QVariant m_version;
+    bool m_tellsVersion = true; ///< a database that is only like one of ours may not know how
 };
 
 } // namespace service

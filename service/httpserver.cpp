@@ -52,7 +52,7 @@ public:
     Private(const ServerSettings &settings, const ViewLibrary &library)
         : settings(settings)
         , handler(library, settings.limits)
-        , pool(settings.threads, settings.databaseFile, std::chrono::seconds(settings.limits.seconds))
+        , pool(settings.threads, settings.databaseAddress, std::chrono::seconds(settings.limits.seconds))
         , server(connectionSettings(settings))
     {}
 

@@ -22,7 +22,7 @@ struct ServerSettings
     int keepAliveSeconds = 15;
     int gzipFrom = 16384; ///< bytes of a reply from which on it is compressed for who asks; 0 is never
     Limits limits;
-    QString databaseFile;
+    QString databaseAddress;
     std::shared_ptr<TokenStore> tokens; ///< null: everybody is served
     std::shared_ptr<AccessLog> accessLog;
 };

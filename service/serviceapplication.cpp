@@ -95,7 +95,7 @@ int serveUntilSignal(const ServiceOptions &options, const ViewLibrary &library, 
 
 int run(const ServiceOptions &options, const sigset_t &signalSet)
 {
-    Database database(options.server.databaseFile);
+    Database database(options.server.databaseAddress);
     QString fault;
     if (!database.open(&fault)) {
         say(stderr, fault);

@@ -123,7 +123,7 @@ QString readServiceOptions(const QCommandLineParser &parser, ServiceOptions *opt
         options->accessLog = QStringLiteral("-");
     options->tokenFile = parser.value(QStringLiteral("token-file"));
     options->server.host = parser.value(QStringLiteral("host"));
-    options->server.databaseFile = parser.value(QStringLiteral("db"));
+    options->server.databaseAddress = parser.value(QStringLiteral("db"));
     options->views = parser.value(QStringLiteral("views"));
     options->checkOnly = parser.isSet(QStringLiteral("check"));
     options->exitWithParent = parser.isSet(QStringLiteral("exit-with-parent"));
