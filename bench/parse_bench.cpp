@@ -1,17 +1,17 @@
 // From the bytes of a reply to the store of rows that a model takes, against parsing the same bytes as JSON
-// and nothing else.
+// and nothing else; and what a store costs by itself.
 
 #include "comparison.h"
 #include "jsonparser/tfjsonparser.h"
 #include "mulittable/tfheaderdatastruct.h"
-#include "net/tfjsp.h"
+#include "net/tfrowsreply.h"
+#include "records/tfvaluelist.h"
 #include "replies.h"
 
 #include <QGuiApplication>
-#include <QJsonDocument>
-
 #include <functional>
-#include <malloc.h>
+#include <string>
+#include <vector>
 
 namespace {
 /// A parser that has read a configuration, with the header it fills.
@@ -25,8 +25,8 @@ struct Page
 
     void read(const QByteArray &bytes)
     {
-        NtResponse response;
-        if (!TFJSP::parseResponse(bytes, response) || !parser.parseData(response.data))
+        TFRowsReply reply;
+        if (!TFRowsReply::read(bytes, reply) || !parser.parseData(reply.envelope.data, reply.rows))
             qFatal("the reply was refused");
     }
 
@@ -34,34 +34,70 @@ struct Page
     TFSubject::TFJsonParser parser;
 };
 
-void measureMemory(int rows)
+constexpr char kText[] = "text 123456";
+constexpr int kTextLength = int(sizeof kText) - 1;
+
+/// A cell as small as can be, the texts in one string.
+struct PlainCell
 {
-    Page page;
-    const QByteArray bytes = Bench::reply(rows);
+    double number;
+    int length;
+    int type;
+};
+
+void fillPlain(int rows)
+{
+    std::vector<PlainCell> cells;
+    std::string texts;
+    for (int i = 0; i < rows * Bench::Columns; ++i) {
+        if (i % 3 != 0) {
+            cells.push_back({double(i), 0, 1});
+        } else {
+            cells.push_back({double(texts.size()), kTextLength, 2});
+            texts.append(kText, kTextLength);
+        }
+    }
+    if (cells.empty() || texts.empty())
+        qFatal("nothing was stored");
+}
+
+void fill(TFValueList &list, int rows)
+{
+    for (int i = 0; i < rows * Bench::Columns; ++i) {
+        if (i % 3 != 0)
+            list.appendNumber(i);
+        else
+            list.appendText(kText, kTextLength);
+    }
+}
+
+void measureCells(int rows)
+{
+    const QString base = QStringLiteral("16-byte cells in one vector");
+    Bench::compare(
+        {QStringLiteral("cells of %1 rows stored").arg(rows), base, 1.5}, 11, [rows] { fillPlain(rows); },
+        [rows] {
+            TFValueList list;
+            fill(list, rows);
+        });
     const size_t before = Bench::allocatedBytes();
-    page.read(bytes);
-    const TFRowStore store = page.parser.rowStore();
-    const size_t withRawRows = Bench::allocatedBytes() - before;
-    page.parser.clearData();
-    malloc_trim(0);
-    const size_t rowsAlone = Bench::allocatedBytes() - before;
-    const double replySize = double(bytes.size());
-    const auto report = [&](const char *work, size_t held) {
-        Bench::report({QString::fromLatin1(work).arg(rows), QStringLiteral("bytes of the reply"), 0},
-                      {held / 1e6, replySize / 1e6, held / replySize, "MB"});
-    };
-    report("memory of %1 rows with the raw rows", withRawRows);
-    report("memory of %1 rows", rowsAlone);
+    TFValueList numbers;
+    for (int i = 0; i < rows * Bench::Columns; ++i)
+        numbers.appendNumber(i);
+    const double bytes = double(Bench::allocatedBytes() - before) / double(numbers.size());
+    Bench::report({QStringLiteral("memory of a cell without its text"), base, 1.5},
+                  {bytes, 16, bytes / 16, "bytes"});
 }
 
 void compareToParser(const char *work, int rows, int rounds,
                      const std::function<void(const QByteArray &)> &road)
 {
     const QByteArray bytes = Bench::reply(rows);
-    Bench::compare(
+    Bench::compareTimed(
         {QStringLiteral("%1, %2 rows").arg(QLatin1String(work)).arg(rows),
          QStringLiteral("QJsonDocument::fromJson"), 0},
-        rounds, [&bytes] { QJsonDocument::fromJson(bytes); }, [&] { road(bytes); });
+        rounds, [&bytes] { return Bench::parseTime(bytes); },
+        [&] { return Bench::milliseconds([&] { road(bytes); }); });
 }
 } // namespace
 
@@ -90,6 +126,6 @@ int main(int argc, char *argv[])
     compareToParser("rows as lists of cells", 100000, 5, asLists);
     compareToParser("rows with a formula column", 200, 50,
                     [&computed](const QByteArray &bytes) { computed.read(bytes); });
-    measureMemory(100000);
+    measureCells(100000);
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "tfbaseview.h"
 
+#include "net/tfjsp.h"
 #include "tfchildfilters.h"
 
 TFBaseView::TFBaseView(QWidget *parent)
@@ -14,6 +15,15 @@ QList<QPair<QString, QVariant>> TFBaseView::requestParameters() const
     for (const FilterParam::DataSourceFilter &parameter : m_parameters)
         pairs.append({parameter.key, parameter.value});
     return pairs;
+}
+
+bool TFBaseView::takeReply(const QByteArray &reply, int flag)
+{
+    NtResponse response;
+    if (!TFJSP::parseResponse(reply, response))
+        return false;
+    handleReply(response.data, QString(), flag);
+    return true;
 }
 
 void TFBaseView::reset(qint64)

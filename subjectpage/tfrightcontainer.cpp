@@ -235,17 +235,13 @@ void TFRightContainer::requestChildRows(int index, TFBaseView *view, const RowDa
 void TFRightContainer::takeChildRows(int index, TFBaseView *asked, int flag, bool isOk,
                                      const QByteArray &data)
 {
-    NtResponse response;
     if (!isOk)
         return;
     auto *view = qobject_cast<TFBaseView *>(m_tabs->widget(index));
-    if (!TFJSP::parseResponse(data, response) || !view) {
-        if (asked)
-            asked->noData();
-        return;
-    }
-    view->handleReply(response.data, QString(), flag);
-    view->finished();
+    if (view && view->takeReply(data, flag))
+        view->finished();
+    else if (asked)
+        asked->noData();
 }
 
 void TFRightContainer::updateChartUseMainTableData(qlonglong chartId)

@@ -16,6 +16,7 @@ class TFSubjectTableModel;
 class TFSujectTableView;
 class TFTableGridHolder;
 class TFTreeStruct;
+struct TFRowsReply;
 
 namespace TFSubject {
 class TFJsonParser;
@@ -63,6 +64,7 @@ public:
     void clear() override;
     bool parseConfig(const QJsonValue &json, bool isNew) override;
     bool handleReply(const QJsonValue &json, const QString &spare, int flag) override;
+    bool takeReply(const QByteArray &data, int flag) override;
     bool isFilterLive(const QString &name) override;
     void setFilterArguments(const QMap<QString, QVariant> &arguments) override;
     void reset(qint64 viewId) override;
@@ -105,7 +107,9 @@ private:
     void exportRows(int type);
     bool isStillWanted();
     bool isOrder() const;
-    bool parseData(const QJsonValue &json);
+    bool showReply(const TFRowsReply &reply, int flag);
+    bool readConfig(const TFRowsReply &reply, bool isNew);
+    bool parseData(const TFRowsReply &reply);
     void connectGrid();
     void openLink(const QString &link);
     void setDataCount(int total, int pageIndex, int pageSize);

@@ -10,7 +10,7 @@
 #include "mulittable/tfsujecttableview.h"
 #include "mulittable/tftablegridholder.h"
 #include "net/tfdm.h"
-#include "net/tfjsp.h"
+#include "net/tfrowsreply.h"
 #include "pagination/tfpaginationbar.h"
 #include "records/tfancestors.h"
 #include "records/tfcategories.h"
@@ -29,8 +29,15 @@ const char kContainerClass[] = "TFRightContainer";
 
 bool TFSubjectTableWidget::parseConfig(const QJsonValue &json, bool isNew)
 {
+    TFRowsReply reply;
+    reply.envelope.data = json;
+    return readConfig(reply, isNew);
+}
+
+bool TFSubjectTableWidget::readConfig(const TFRowsReply &reply, bool isNew)
+{
     m_header->clearChildren();
-    if (!m_parser->parseConfig(json, m_header.get())) {
+    if (!m_parser->parseConfig(reply.envelope.data, m_header.get(), reply.rows)) {
         qCWarning(lcTable) << "json parse error";
         finished();
         return false;
@@ -125,12 +132,12 @@ void TFSubjectTableWidget::takePage(bool isOk, const QByteArray &data)
         return;
     }
     m_appliedContent = m_sentContent;
-    NtResponse response;
-    if (!TFJSP::parseResponse(data, response) || !isStillWanted()) {
+    TFRowsReply reply;
+    if (!TFRowsReply::read(data, reply) || !isStillWanted()) {
         noData();
         return;
     }
-    handleReply(response.data, QString(), RowsReply);
+    showReply(reply, RowsReply);
 }
 
 void TFSubjectTableWidget::requestWholeSet()
@@ -145,9 +152,9 @@ void TFSubjectTableWidget::requestWholeSet()
 
 void TFSubjectTableWidget::takeWholeSet(bool isOk, const QByteArray &data)
 {
-    NtResponse response;
-    if (isOk && TFJSP::parseResponse(data, response) && isStillWanted())
-        handleReply(response.data, QString(), WholeSetReply);
+    TFRowsReply reply;
+    if (isOk && TFRowsReply::read(data, reply) && isStillWanted())
+        showReply(reply, WholeSetReply);
 }
 
 bool TFSubjectTableWidget::isStillWanted()
@@ -165,16 +172,32 @@ bool TFSubjectTableWidget::isStillWanted()
 bool TFSubjectTableWidget::handleReply(const QJsonValue &json, const QString &spare, int flag)
 {
     Q_UNUSED(spare)
+    TFRowsReply reply;
+    reply.envelope.data = json;
+    return showReply(reply, flag);
+}
+
+bool TFSubjectTableWidget::takeReply(const QByteArray &data, int flag)
+{
+    TFRowsReply reply;
+    if (!TFRowsReply::read(data, reply))
+        return false;
+    showReply(reply, flag);
+    return true;
+}
+
+bool TFSubjectTableWidget::showReply(const TFRowsReply &reply, int flag)
+{
     bool isShown = false;
     switch (flag) {
     case ConfigReply:
-        isShown = !m_isMain || parseConfig(json, true);
+        isShown = !m_isMain || readConfig(reply, true);
         break;
     case RowsReply:
-        isShown = parseData(json);
+        isShown = parseData(reply);
         break;
     case WholeSetReply:
-        isShown = parseConfig(json, false) && parseData(json);
+        isShown = readConfig(reply, false) && parseData(reply);
         break;
     default:
         break;
@@ -192,12 +215,12 @@ bool TFSubjectTableWidget::handleReply(const QJsonValue &json, const QString &sp
     return true;
 }
 
-bool TFSubjectTableWidget::parseData(const QJsonValue &json)
+bool TFSubjectTableWidget::parseData(const TFRowsReply &reply)
 {
     qCDebug(lcTable) << "mMultiHeaderData.size() : " << m_header->leaves().size();
     m_grid = m_gridHolder->makeGrid(m_header.get());
     connectGrid();
-    if (!m_parser->parseData(json)) {
+    if (!m_parser->parseData(reply.envelope.data, reply.rows)) {
         m_grid = nullptr;
         return false;
     }

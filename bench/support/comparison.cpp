@@ -20,6 +20,19 @@ QString figure(double value, const char *unit)
     return QString::asprintf("%.*f %s", value < 10 ? 3 : 1, value, unit);
 }
 
+/// A line of /proc/self/status that is in kB, as bytes.
+size_t statusBytes(const QByteArray &name)
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (file.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            if (line.startsWith(name + ':'))
+                return line.mid(name.size() + 1).simplified().split(' ').first().toULongLong() * 1024;
+        }
+    }
+    qFatal("%s can't be read", name.constData());
+}
+
 void append(const QString &line)
 {
     const QString path = qEnvironmentVariable("SUBJECTPAGE_BENCH_TABLE");
@@ -44,6 +57,17 @@ size_t Bench::allocatedBytes()
 {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
+}
+
+size_t Bench::peakBytes(const std::function<void()> &work)
+{
+    malloc_trim(0);
+    QFile reset(QStringLiteral("/proc/self/clear_refs"));
+    if (!reset.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || reset.write("5") != 1)
+        qFatal("the peak can't be reset");
+    const size_t before = statusBytes("VmRSS");
+    work();
+    return statusBytes("VmHWM") - before;
 }
 
 Bench::Result Bench::compare(const Goal &goal, int rounds, const std::function<void()> &base,

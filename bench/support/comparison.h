@@ -34,6 +34,9 @@ double milliseconds(const std::function<void()> &work, int times = 1);
 /// Bytes that the process holds on its heap.
 size_t allocatedBytes();
 
+/// Bytes of memory that \a work had in use at its most, beyond those in use before it.
+size_t peakBytes(const std::function<void()> &work);
+
 /// Runs \a base and \a work in turns, \a times runs of each a round, after one round to warm up; reports and
 /// returns the medians over the rounds.
 Result compare(const Goal &goal, int rounds, const std::function<void()> &base,

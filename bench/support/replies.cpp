@@ -1,5 +1,7 @@
 #include "replies.h"
 
+#include "comparison.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -75,4 +77,10 @@ QByteArray Bench::reply(int rows)
                                {"extend", QJsonValue()},
                                {"data", QJsonObject{{"Data", data}, {"Summary", summary}}}};
     return QJsonDocument(envelope).toJson(QJsonDocument::Compact);
+}
+
+double Bench::parseTime(const QByteArray &json)
+{
+    QJsonDocument document;
+    return milliseconds([&] { document = QJsonDocument::fromJson(json); });
 }

@@ -19,4 +19,7 @@ QJsonObject configuration(const QString &unbound = QString());
 /// What a data service answers for \a rows rows of it.
 QByteArray reply(int rows);
 
+/// Milliseconds that QJsonDocument::fromJson() takes for \a json, without the end of the document.
+double parseTime(const QByteArray &json);
+
 } // namespace Bench

@@ -2,10 +2,16 @@
 
 #include "tftablenames.h"
 
+#include <QJsonArray>
+
+TFDataJsonTable::TFDataJsonTable(QObject *parent)
+    : TFBaseJsonTable(parent)
+    , m_rows(std::make_shared<TFRawRows>())
+{}
+
 void TFDataJsonTable::initWith(const QJsonValue &value)
 {
-    m_maps.clear();
-    m_array = value.toArray();
+    m_rows = TFRawRows::fromJson(value.toArray());
 }
 
 int TFDataJsonTable::tableType() const
@@ -13,30 +19,21 @@ int TFDataJsonTable::tableType() const
     return TFTableId::Data;
 }
 
-int TFDataJsonTable::rowCount() const
-{
-    return m_array.size() + m_maps.size();
-}
-
 QList<QVariantMap> TFDataJsonTable::rows() const
 {
-    if (m_array.isEmpty())
-        return m_maps;
     QList<QVariantMap> rows;
-    rows.reserve(m_array.size());
-    const QVariantList elements = m_array.toVariantList();
-    for (const QVariant &element : elements)
-        rows.append(element.toMap());
+    rows.reserve(rowCount());
+    for (int row = 0; row < rowCount(); ++row)
+        rows.append(m_rows->map(row));
     return rows;
 }
 
 void TFDataJsonTable::setRows(const QList<QVariantMap> &rows)
 {
-    m_array = QJsonArray();
-    m_maps = rows;
+    m_rows = TFRawRows::fromMaps(rows);
 }
 
 void TFDataJsonTable::clear()
 {
-    setRows({});
+    m_rows = std::make_shared<TFRawRows>();
 }

@@ -44,7 +44,7 @@ TFJsonParser::~TFJsonParser()
     qDeleteAll(m_tables);
 }
 
-bool TFJsonParser::parseConfig(const QJsonValue &document, TFTreeStruct *header)
+bool TFJsonParser::parseConfig(const QJsonValue &document, TFTreeStruct *header, const TFRawRowsPtr &rows)
 {
     if (document.isUndefined() || !header)
         return false;
@@ -57,6 +57,8 @@ bool TFJsonParser::parseConfig(const QJsonValue &document, TFTreeStruct *header)
         if (object.contains(name))
             readTable(name, object.value(name));
     }
+    if (rows && dataTable())
+        dataTable()->setRows(rows);
     buildHeader();
     buildRows();
     return true;
@@ -74,7 +76,7 @@ void TFJsonParser::readTable(const QString &name, const QJsonValue &value)
     m_tables.insert(id, table.release());
 }
 
-bool TFJsonParser::parseData(const QJsonValue &payload)
+bool TFJsonParser::parseData(const QJsonValue &payload, const TFRawRowsPtr &rows)
 {
     if (!dataTable())
         m_tables.insert(TFTableId::Data, new TFDataJsonTable);
@@ -83,6 +85,8 @@ bool TFJsonParser::parseData(const QJsonValue &payload)
         return false;
     if (object.contains(TFTableName::Data))
         dataTable()->initWith(object.value(TFTableName::Data));
+    if (rows)
+        dataTable()->setRows(rows);
     if (object.contains(TFTableName::Summary)) {
         if (!summaryTable())
             m_tables.insert(TFTableId::Summary, new TFSummaryJsonTable);
@@ -153,7 +157,7 @@ void TFJsonParser::buildRows()
     TFRowBuilder builder(
         header->leaves(), [this](const QString &field) { return referenceRecord(field).valueType; },
         [this] { return expressionParse(); });
-    m_rows = builder.build(*data);
+    m_rows = builder.build(data->rawRows());
 }
 
 ExpressionParse *TFJsonParser::expressionParse()

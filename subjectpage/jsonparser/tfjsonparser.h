@@ -38,11 +38,13 @@ public:
     /// Reads a whole document: replaces every table, fills \a header (which the caller owns and keeps alive)
     /// and builds the rows. False, with nothing done, for an undefined document or no header; true otherwise,
     /// also for a document without any known key. Emits signalSubTableJsonData() while it reads.
-    bool parseConfig(const QJsonValue &document, TFTreeStruct *header);
+    ///
+    /// \a rows, unless null, stand for what "Data" holds, here and in parseData(): see TFRowsReply.
+    bool parseConfig(const QJsonValue &document, TFTreeStruct *header, const TFRawRowsPtr &rows = {});
 
     /// Reads "Data" and "Summary" of a later page and rebuilds the rows over the same header. False for a
     /// payload that is no object or an empty one.
-    bool parseData(const QJsonValue &payload);
+    bool parseData(const QJsonValue &payload, const TFRawRowsPtr &rows = {});
 
     /// Export: turns a raw reply into plain values, one list a row in the order of \a header's leaves,
     /// appended to \a out. Touches nothing of the parser. False for a reply that is empty, no JSON, or whose

@@ -64,7 +64,7 @@ TFRowStore rowsOf(const TFDataJsonTable &table, const QList<TFTreeStruct *> &lea
     };
     return TFRowBuilder(
                leaves, [](const QString &) { return QString(); }, freshParser)
-        .build(table);
+        .build(table.rawRows());
 }
 } // namespace
 

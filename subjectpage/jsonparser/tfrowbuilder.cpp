@@ -2,14 +2,8 @@
 
 #include "expression/expressionparse.h"
 #include "mulittable/tfheaderdatastruct.h"
-#include "tfdatajsontable.h"
-
-#include <QCborArray>
-#include <QCborMap>
-#include <QJsonArray>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 const QString SecurityIdField = QStringLiteral("SECU_ID");
@@ -36,56 +30,6 @@ bool isComputed(const HeaderFieldInfo &info)
 {
     return !info.unboundExpression.isEmpty() && info.valueType.toLower() == DecimalType;
 }
-
-/// A raw row as it came. The map shares the JSON object's data and is cheaper to walk: its keys compare
-/// without being made into texts.
-struct JsonRow
-{
-    bool hasKeys(const TFRowBuilder::Keys &keys) const
-    {
-        if (map.size() != keys.raw.size())
-            return false;
-        auto key = keys.raw.begin();
-        for (auto it = map.begin(); it != map.end(); ++it, ++key) {
-            if (it.key() != *key)
-                return false;
-        }
-        return true;
-    }
-    TFRowBuilder::Keys keys() const
-    {
-        TFRowBuilder::Keys keys;
-        keys.raw = map.keys();
-        for (const QCborValue &key : qAsConst(keys.raw))
-            keys.names.append(key.toString());
-        return keys;
-    }
-    double number(int index) const { return (map.begin() + index).value().toVariant().toDouble(); }
-    template <typename Take> void forEach(Take take) const
-    {
-        int index = 0;
-        for (auto it = map.begin(); it != map.end(); ++it)
-            take(index++, it.value().toVariant());
-    }
-
-    const QCborMap map;
-};
-
-/// A raw row that was set as a map.
-struct MapRow
-{
-    bool hasKeys(const TFRowBuilder::Keys &keys) const { return map.keys() == keys.names; }
-    TFRowBuilder::Keys keys() const { return {map.keys(), {}}; }
-    double number(int index) const { return std::next(map.begin(), index)->toDouble(); }
-    template <typename Take> void forEach(Take take) const
-    {
-        int index = 0;
-        for (const QVariant &value : map)
-            take(index++, QVariant(value));
-    }
-
-    const QVariantMap &map;
-};
 } // namespace
 
 TFRowBuilder::TFRowBuilder(const QList<TFTreeStruct *> &leaves, TypeOfField typeOfField, Evaluator evaluator)
@@ -103,122 +47,98 @@ TFRowBuilder::TFRowBuilder(const QList<TFTreeStruct *> &leaves, TypeOfField type
     }
 }
 
-TFRowStore TFRowBuilder::build(const TFDataJsonTable &table)
+TFRowStore TFRowBuilder::build(const TFRawRowsPtr &rows) const
 {
-    m_store.clear();
-    m_shapes.clear();
-    m_shapeOfKeys.clear();
-    m_shape = -1;
-    m_store.reserve(table.rowCount());
-    const QCborArray elements = QCborArray::fromJsonArray(table.rowArray());
-    for (const auto &element : elements)
-        append(JsonRow{element.toMap()});
-    for (const QVariantMap &map : table.rowMaps())
-        append(MapRow{map});
-    return m_store;
+    std::vector<Layout> layouts;
+    for (const Shape &shape : rows->shapes())
+        layouts.push_back(layoutOf(shape));
+    return TFRowStore(rows, std::move(layouts), compute(*rows), int(m_computed.size()));
 }
 
-template <typename Row> void TFRowBuilder::append(const Row &row)
+TFRowStore::Layout TFRowBuilder::layoutOf(const Shape &shape) const
 {
-    const Shape &shape = shapeOf(row);
-    const double secuId = shape.secuIdKey < 0 ? 0 : row.number(shape.secuIdKey);
-    QVariant *cells = m_store.appendRow(shape.layout, secuId);
-    row.forEach([&](int key, QVariant &&value) { cells[shape.cellOfKey.at(key)] = std::move(value); });
-    for (const QPair<int, int> &copy : shape.copies)
-        cells[copy.second] = cells[copy.first];
-    if (!m_computed.empty())
-        compute(shape, cells);
-}
-
-template <typename Row> const TFRowBuilder::Shape &TFRowBuilder::shapeOf(const Row &row)
-{
-    if (m_shape >= 0 && row.hasKeys(m_shapes[size_t(m_shape)].keys))
-        return m_shapes[size_t(m_shape)];
-    const Keys keys = row.keys();
-    const auto known = m_shapeOfKeys.constFind(keys.names);
-    if (known != m_shapeOfKeys.constEnd()) {
-        m_shape = *known;
-    } else {
-        m_shape = int(m_shapes.size());
-        m_shapes.push_back(makeShape(keys));
-        m_shapeOfKeys.insert(keys.names, m_shape);
-    }
-    return m_shapes[size_t(m_shape)];
-}
-
-TFRowBuilder::Shape TFRowBuilder::makeShape(const Keys &rowKeys)
-{
-    Shape shape;
-    shape.keys = rowKeys;
-    const QStringList &keys = rowKeys.names;
-    shape.sorted.resize(keys.size());
-    std::iota(shape.sorted.begin(), shape.sorted.end(), 0);
-    // JSON sorts by code point, a map by UTF-16 unit.
-    std::sort(shape.sorted.begin(), shape.sorted.end(),
-              [&keys](int a, int b) { return keys.at(a) < keys.at(b); });
-    shape.secuIdKey = keys.indexOf(SecurityIdField);
-
-    TFRowStore::Layout layout = m_leafLayout;
+    Layout layout = m_leafLayout;
+    layout.places.fill(Layout::NoPlace, layout.cells.size());
     addFurtherCells(shape, layout);
-    shape.layout = m_store.addLayout(layout);
     for (int i = 0; i < m_leafLayout.cells.size(); ++i) {
-        const QString &field = m_leafLayout.cells.at(i).fieldName;
-        const int first = m_leafOfField.value(field);
-        if (first != i && keys.contains(field))
-            shape.copies.append({first, i});
+        const int first = m_leafOfField.value(m_leafLayout.cells.at(i).fieldName);
+        layout.places[i] = layout.places.at(first);
     }
-    for (const Computed &column : m_computed) {
-        QVector<int> counted;
-        std::copy_if(shape.sorted.begin(), shape.sorted.end(), std::back_inserter(counted),
-                     [&](int key) { return column.expression.counts(keys.at(key)); });
-        shape.counted.append(counted);
-    }
-    return shape;
+    for (size_t i = 0; i < m_computed.size(); ++i)
+        layout.places[m_computed[i].cell] = TFRowStore::computedPlace(int(i));
+    const int secuId = shape.keys.indexOf(SecurityIdField);
+    if (secuId >= 0)
+        layout.secuIdPlace = shape.places.at(secuId);
+    return layout;
 }
 
-void TFRowBuilder::addFurtherCells(Shape &shape, TFRowStore::Layout &layout)
+void TFRowBuilder::addFurtherCells(const Shape &shape, Layout &layout) const
 {
-    shape.cellOfKey.resize(shape.keys.names.size());
-    for (const int key : qAsConst(shape.sorted)) {
-        const QString &name = shape.keys.names.at(key);
+    for (int i = 0; i < shape.keys.size(); ++i) {
+        const QString &name = shape.keys.at(i);
         const int leaf = m_leafOfField.value(name, -1);
-        shape.cellOfKey[key] = leaf >= 0 ? leaf : layout.cells.size();
-        if (leaf >= 0)
+        if (leaf >= 0) {
+            layout.places[leaf] = shape.places.at(i);
             continue;
+        }
         TFRowStore::Cell cell;
         cell.fieldName = name;
         cell.valueType = m_typeOfField(name);
         layout.cells.append(cell);
+        layout.places.append(shape.places.at(i));
     }
 }
 
-void TFRowBuilder::compute(const Shape &shape, QVariant *cells)
+TFValueList TFRowBuilder::compute(const TFRawRows &rows) const
 {
-    // All from the delivered values: a computed cell is no input of another one.
-    m_rawValues.resize(shape.keys.names.size());
-    for (int key = 0; key < shape.keys.names.size(); ++key)
-        m_rawValues[key] = cells[shape.cellOfKey.at(key)];
-    for (size_t i = 0; i < m_computed.size(); ++i)
-        cells[m_computed[i].cell] = computed(shape, int(i));
+    TFValueList values;
+    if (m_computed.empty())
+        return values;
+    std::vector<QVector<QVector<int>>> counted;
+    for (const Shape &shape : rows.shapes())
+        counted.push_back(countedPlaces(shape));
+    for (int row = 0; row < rows.rowCount(); ++row)
+        computeRow(rows, row, counted[size_t(rows.shapeOf(row))], values);
+    return values;
 }
 
-QVariant TFRowBuilder::computed(const Shape &shape, int column) const
+QVector<QVector<int>> TFRowBuilder::countedPlaces(const Shape &shape) const
 {
-    const TFUnboundExpression &expression = m_computed[size_t(column)].expression;
-    if (expression.isAggregate()) {
-        QVector<double> numbers;
-        for (const int key : shape.counted.at(column))
-            numbers.append(m_rawValues.at(key).toDouble());
-        return expression.aggregate(numbers);
+    QVector<QVector<int>> places;
+    for (const Computed &column : m_computed) {
+        places.append(QVector<int>());
+        for (int i = 0; i < shape.keys.size(); ++i) {
+            if (column.expression.counts(shape.keys.at(i)))
+                places.last().append(shape.places.at(i));
+        }
     }
-    const QStringList &names = shape.keys.names;
+    return places;
+}
+
+void TFRowBuilder::computeRow(const TFRawRows &rows, int row, const QVector<QVector<int>> &counted,
+                              TFValueList &out) const
+{
+    // From the delivered values: a computed cell is no input of another one.
+    const Shape &shape = rows.shapes()[size_t(rows.shapeOf(row))];
+    QVariant value;
     const auto valueOf = [&](const QString &field) -> const QVariant * {
-        const auto key =
-            std::lower_bound(shape.sorted.begin(), shape.sorted.end(), field,
-                             [&names](int key, const QString &name) { return names.at(key) < name; });
-        return key != shape.sorted.end() && names.at(*key) == field ? &m_rawValues.at(*key) : nullptr;
+        const auto key = std::lower_bound(shape.keys.begin(), shape.keys.end(), field);
+        if (key == shape.keys.end() || *key != field)
+            return nullptr;
+        value = rows.value(row, shape.places.at(int(key - shape.keys.begin())));
+        return &value;
     };
-    QVariant result;
-    m_evaluator()->parseRow(expression.text(), result, valueOf);
-    return result;
+    for (size_t i = 0; i < m_computed.size(); ++i) {
+        const TFUnboundExpression &expression = m_computed[i].expression;
+        QVariant result;
+        if (expression.isAggregate()) {
+            QVector<double> numbers;
+            for (const int place : counted.at(int(i)))
+                numbers.append(rows.number(row, place));
+            result = expression.aggregate(numbers);
+        } else {
+            m_evaluator()->parseRow(expression.text(), result, valueOf);
+        }
+        out.append(result);
+    }
 }

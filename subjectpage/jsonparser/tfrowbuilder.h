@@ -3,17 +3,15 @@
 #include "records/tfrowstore.h"
 #include "tfunboundexpression.h"
 
-#include <QCborValue>
 #include <QHash>
 #include <QList>
-#include <QStringList>
+#include <QString>
 #include <QVector>
 
 #include <functional>
 #include <vector>
 
 class ExpressionParse;
-class TFDataJsonTable;
 class TFTreeStruct;
 
 /// Makes rows of cells from raw rows: a cell for each leaf of the header, then one for each further key of
@@ -26,18 +24,14 @@ public:
     /// The evaluator of formulas; asked for once a formula cell.
     using Evaluator = std::function<ExpressionParse *()>;
 
-    /// The keys of a raw row.
-    struct Keys
-    {
-        QStringList names;
-        QVector<QCborValue> raw; ///< the same as the row's own values; empty for a row set as a map
-    };
-
     TFRowBuilder(const QList<TFTreeStruct *> &leaves, TypeOfField typeOfField, Evaluator evaluator);
 
-    TFRowStore build(const TFDataJsonTable &table);
+    TFRowStore build(const TFRawRowsPtr &rows) const;
 
 private:
+    using Layout = TFRowStore::Layout;
+    using Shape = TFRawRows::Shape;
+
     /// A computed column.
     struct Computed
     {
@@ -45,33 +39,16 @@ private:
         TFUnboundExpression expression;
     };
 
-    /// Where the values of a raw row with certain keys go.
-    struct Shape
-    {
-        Keys keys;                       ///< as the rows come
-        QVector<int> sorted;             ///< indices of the keys in the order of a map
-        QVector<int> cellOfKey;          ///< the first cell of that field name
-        QVector<QPair<int, int>> copies; ///< from the first cell to further ones of the same field name
-        QVector<QVector<int>> counted; ///< for each computed column, the keys of its aggregate, in map order
-        int layout = -1;
-        int secuIdKey = -1;
-    };
-
-    template <typename Row> void append(const Row &row);
-    template <typename Row> const Shape &shapeOf(const Row &row);
-    Shape makeShape(const Keys &rowKeys);
-    void addFurtherCells(Shape &shape, TFRowStore::Layout &layout);
-    void compute(const Shape &shape, QVariant *cells);
-    QVariant computed(const Shape &shape, int column) const;
+    Layout layoutOf(const Shape &shape) const;
+    void addFurtherCells(const Shape &shape, Layout &layout) const;
+    TFValueList compute(const TFRawRows &rows) const;
+    void computeRow(const TFRawRows &rows, int row, const QVector<QVector<int>> &counted,
+                    TFValueList &out) const;
+    QVector<QVector<int>> countedPlaces(const Shape &shape) const;
 
     TypeOfField m_typeOfField;
     Evaluator m_evaluator;
-    TFRowStore::Layout m_leafLayout;
+    Layout m_leafLayout;
     QHash<QString, int> m_leafOfField; ///< the first leaf of each field name
     std::vector<Computed> m_computed;
-    std::vector<Shape> m_shapes;
-    QHash<QStringList, int> m_shapeOfKeys;
-    int m_shape = -1;              ///< of the row before
-    QVector<QVariant> m_rawValues; ///< of the row at hand, when a column is computed from them
-    TFRowStore m_store;
 };

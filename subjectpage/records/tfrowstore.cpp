@@ -1,65 +1,7 @@
 #include "tfrowstore.h"
 
-#include <QSharedData>
-
-#include <algorithm>
-#include <memory>
+#include <numeric>
 #include <tuple>
-#include <vector>
-
-struct TFRowStoreData : QSharedData
-{
-    struct Row
-    {
-        QVariant *values;
-        double secuId;
-        int layout;
-    };
-
-    TFRowStoreData() = default;
-    TFRowStoreData(const TFRowStoreData &other)
-        : QSharedData(other)
-        , layouts(other.layouts)
-    {
-        for (const Row &row : other.rows) {
-            QVariant *values = appendRow(row.layout, row.secuId);
-            std::copy_n(row.values, layouts[size_t(row.layout)].cells.size(), values);
-        }
-    }
-
-    const TFRowStore::Layout &layoutOf(int row) const { return layouts[size_t(rows[size_t(row)].layout)]; }
-
-    QVariant *appendRow(int layout, double secuId)
-    {
-        const auto count = size_t(layouts[size_t(layout)].cells.size());
-        if (chunkSize - chunkUsed < count)
-            addChunk(count);
-        QVariant *values = chunks.empty() ? nullptr : chunks.back().get() + chunkUsed;
-        chunkUsed += count;
-        rows.push_back({values, secuId, layout});
-        return values;
-    }
-
-    std::vector<TFRowStore::Layout> layouts;
-    std::vector<Row> rows;
-
-private:
-    /// Values lie in chunks that never move, each as large as all before it within bounds.
-    void addChunk(size_t needed)
-    {
-        constexpr size_t Smallest = 1024;
-        constexpr size_t Largest = 65536;
-        chunkTotal += chunkSize;
-        chunkSize = std::max(needed, std::clamp(chunkTotal, Smallest, Largest));
-        chunkUsed = 0;
-        chunks.push_back(std::make_unique<QVariant[]>(chunkSize));
-    }
-
-    std::vector<std::unique_ptr<QVariant[]>> chunks;
-    size_t chunkSize = 0;
-    size_t chunkUsed = 0;
-    size_t chunkTotal = 0;
-};
 
 namespace {
 using Cell = TFTableModelData::tagCellValue;
@@ -83,7 +25,8 @@ bool fits(const TFRowStore::Layout &layout, const RowData &row)
     return true;
 }
 
-TFRowStore::Layout layoutOf(const RowData &row)
+/// The layout of \a row with all its values in their order, followed by its secuId.
+TFRowStore::Layout packedLayout(const RowData &row)
 {
     TFRowStore::Layout layout;
     layout.cells.reserve(row.size());
@@ -93,56 +36,61 @@ TFRowStore::Layout layoutOf(const RowData &row)
     }
     while (layout.securedCells < row.size() && row.at(layout.securedCells).secuId == row.first().secuId)
         ++layout.securedCells;
+    layout.places.resize(row.size());
+    std::iota(layout.places.begin(), layout.places.end(), 0);
+    layout.secuIdPlace = row.size();
     return layout;
 }
 } // namespace
 
 TFRowStore::TFRowStore()
-    : d(new TFRowStoreData)
+    : TFRowStore(std::make_shared<TFRawRows>(), {}, {}, 0)
 {}
 
-TFRowStore::TFRowStore(const TFRowStore &other) = default;
-TFRowStore &TFRowStore::operator=(const TFRowStore &other) = default;
-TFRowStore::~TFRowStore() = default;
+TFRowStore::TFRowStore(TFRawRowsPtr rows, std::vector<Layout> layouts, TFValueList computed,
+                       int computedColumns)
+    : d(std::make_shared<Data>(
+          Data{std::move(rows), std::move(layouts), std::move(computed), computedColumns}))
+{}
 
 TFRowStore TFRowStore::fromRows(const QList<RowData> &rows)
 {
-    TFRowStore store;
-    int layout = -1;
+    auto raw = std::make_shared<TFRawRows>();
+    std::vector<Layout> layouts;
     for (const RowData &row : rows) {
-        if (layout < 0 || !fits(store.d->layouts[size_t(layout)], row))
-            layout = store.addLayout(layoutOf(row));
-        QVariant *values = store.appendRow(layout, row.isEmpty() ? 0 : row.first().secuId);
+        if (layouts.empty() || !fits(layouts.back(), row)) {
+            layouts.push_back(packedLayout(row));
+            raw->addShape({});
+        }
         for (const Cell &cell : row)
-            *values++ = cell.value;
+            raw->values().append(cell.value);
+        raw->values().append(row.isEmpty() ? 0 : row.first().secuId);
+        raw->endRow(int(layouts.size()) - 1);
     }
-    return store;
-}
-
-int TFRowStore::rowCount() const
-{
-    return int(d->rows.size());
+    return TFRowStore(std::move(raw), std::move(layouts), {}, 0);
 }
 
 int TFRowStore::cellCount(int row) const
 {
-    return row >= 0 && row < rowCount() ? d->layoutOf(row).cells.size() : 0;
+    return row >= 0 && row < rowCount() ? layoutOf(row).cells.size() : 0;
 }
 
-const QVariant &TFRowStore::value(int row, int index) const
+QVariant TFRowStore::value(int row, int index) const
 {
-    return d->rows[size_t(row)].values[index];
-}
-
-const TFRowStore::Cell &TFRowStore::prototype(int row, int index) const
-{
-    return d->layoutOf(row).cells.at(index);
+    const int place = layoutOf(row).places.at(index);
+    if (place >= 0)
+        return d->raw->value(row, place);
+    if (place == Layout::NoPlace)
+        return {};
+    return d->computed.at(size_t(row) * size_t(d->computedColumns) + size_t(computedPlace(place)));
 }
 
 double TFRowStore::secuId(int row, int index) const
 {
-    const Layout &layout = d->layoutOf(row);
-    return index < layout.securedCells ? d->rows[size_t(row)].secuId : layout.cells.at(index).secuId;
+    const Layout &layout = layoutOf(row);
+    if (index >= layout.securedCells)
+        return layout.cells.at(index).secuId;
+    return layout.secuIdPlace == Layout::NoPlace ? 0 : d->raw->number(row, layout.secuIdPlace);
 }
 
 TFRowStore::Cell TFRowStore::cell(int row, int index) const
@@ -170,25 +118,4 @@ QList<RowData> TFRowStore::rows() const
     for (int i = 0; i < rowCount(); ++i)
         all.append(row(i));
     return all;
-}
-
-void TFRowStore::clear()
-{
-    d = new TFRowStoreData;
-}
-
-void TFRowStore::reserve(int rows)
-{
-    d->rows.reserve(d->rows.size() + size_t(rows));
-}
-
-int TFRowStore::addLayout(const Layout &layout)
-{
-    d->layouts.push_back(layout);
-    return int(d->layouts.size()) - 1;
-}
-
-QVariant *TFRowStore::appendRow(int layout, double secuId)
-{
-    return d->appendRow(layout, secuId);
 }

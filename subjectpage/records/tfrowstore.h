@@ -1,18 +1,19 @@
 #pragma once
 
+#include "tfrawrows.h"
 #include "tftablemodeldata.h"
 
-#include <QSharedDataPointer>
 #include <QVector>
 
-struct TFRowStoreData;
+#include <memory>
+#include <vector>
 
-/// The built rows of one page of data, in compact form.
+/// The built rows of one page of data: the raw rows as they came, and how the cells of a row take their
+/// values from them.
 ///
-/// Rows with the same keys share one layout, which holds everything of their cells but the values; a row is
-/// then its values and one number. Cells and whole rows are made on demand and equal those of a
-/// QList<RowData> in every field. Copying a store is cheap (implicitly shared), so a parser hands it to a
-/// model by value.
+/// Raw rows of the same shape share one layout, which holds everything of their cells but the values. Cells
+/// and whole rows are made on demand and equal those of a QList<RowData> in every field. Copying a store is
+/// cheap (it shares its contents, which never change), so a parser hands it to a model by value.
 class TFRowStore
 {
 public:
@@ -21,28 +22,35 @@ public:
     /// What the cells of a row have in common with those of other rows.
     struct Layout
     {
-        QVector<Cell> cells;  ///< without their values; secuId only of the cells beyond securedCells
-        int securedCells = 0; ///< that many leading cells carry the secuId of the row
+        static constexpr int NoPlace = -1;
+
+        QVector<Cell> cells;       ///< without their values; secuId only of the cells beyond securedCells
+        QVector<int> places;       ///< of each cell's value in the raw row; NoPlace, or computedPlace()
+        int securedCells = 0;      ///< that many leading cells carry the secuId of the row
+        int secuIdPlace = NoPlace; ///< of the value that is the secuId of the row
     };
 
+    /// The place of a cell whose value is the \a column-th computed one of its row.
+    static constexpr int computedPlace(int column) { return Layout::NoPlace - 1 - column; }
+
     TFRowStore();
-    TFRowStore(const TFRowStore &other);
-    TFRowStore &operator=(const TFRowStore &other);
-    ~TFRowStore();
+    /// Builds the rows over \a rows, with a layout for each of their shapes. \a computed has
+    /// \a computedColumns values a row.
+    TFRowStore(TFRawRowsPtr rows, std::vector<Layout> layouts, TFValueList computed, int computedColumns);
 
     /// Packs ready rows; rows() gives them back unchanged.
     static TFRowStore fromRows(const QList<RowData> &rows);
 
     bool isEmpty() const { return rowCount() == 0; }
-    int rowCount() const;
+    int rowCount() const { return d->raw->rowCount(); }
     /// Cells of that row: the columns, then the further keys. 0 for a row that does not exist.
     int cellCount(int row) const;
 
     // The indices of what follows must be valid: 0 <= row < rowCount(), 0 <= index < cellCount(row).
 
-    const QVariant &value(int row, int index) const;
-    /// The cell without its value and, as a rule, without its secuId. Valid until the store changes.
-    const Cell &prototype(int row, int index) const;
+    QVariant value(int row, int index) const;
+    /// The cell without its value and, as a rule, without its secuId. Valid as long as the store.
+    const Cell &prototype(int row, int index) const { return layoutOf(row).cells.at(index); }
     double secuId(int row, int index) const;
     Cell cell(int row, int index) const;
     RowData row(int row) const;
@@ -50,19 +58,18 @@ public:
     /// All rows in full; costs many times the memory of the store.
     QList<RowData> rows() const;
 
-    // Filling.
-
-    void clear();
-    /// Announces how many rows will be appended.
-    void reserve(int rows);
-    /// Index of the new layout, for appendRow().
-    int addLayout(const Layout &layout);
-    /// Appends a row of that layout and returns its values for writing: as many as the layout has cells, all
-    /// invalid. The pointer is good as long as the store is neither cleared nor shared.
-    QVariant *appendRow(int layout, double secuId);
+    void clear() { *this = TFRowStore(); }
 
 private:
-    QSharedDataPointer<TFRowStoreData> d;
-};
+    struct Data
+    {
+        TFRawRowsPtr raw;
+        std::vector<Layout> layouts; ///< by shape
+        TFValueList computed;
+        int computedColumns;
+    };
 
-Q_DECLARE_TYPEINFO(TFRowStore, Q_MOVABLE_TYPE);
+    const Layout &layoutOf(int row) const { return d->layouts[size_t(d->raw->shapeOf(row))]; }
+
+    std::shared_ptr<const Data> d;
+};

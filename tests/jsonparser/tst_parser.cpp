@@ -593,17 +593,12 @@ void TestParser::packedRowsComeBackUnchanged()
                                  {cell("a", 6, 3), cell("b", 7, 1), cell("c", 6, 4)},
                                  {},
                                  {cell("z", 0, 1)}};
-    TFRowStore store = TFRowStore::fromRows(rows);
-    const TFRowStore copy = store;
-    *store.appendRow(0, 9) = "changed";
+    const TFRowStore store = TFRowStore::fromRows(rows);
 
-    QCOMPARE(copy.rowCount(), rows.size());
-    for (int i = 0; i < rows.size(); ++i) {
-        QCOMPARE(inFull(copy.row(i)), inFull(rows.at(i)));
+    QCOMPARE(store.rowCount(), rows.size());
+    for (int i = 0; i < rows.size(); ++i)
         QCOMPARE(inFull(store.row(i)), inFull(rows.at(i)));
-    }
-    QCOMPARE(store.rowCount(), 6);
-    QCOMPARE(copy.cellCount(-1) + copy.cellCount(5), 0);
+    QCOMPARE(store.cellCount(-1) + store.cellCount(5), 0);
 }
 
 SUBJECT_TEST_MAIN(TestParser)
