@@ -6,6 +6,7 @@
 #include "previewpage.h"
 #include "records/tfancestors.h"
 #include "records/tfcategories.h"
+#include "tfchartprint.h"
 #include "tfcore/tfcore.h"
 #include "tfcore/tfwebprocesses.h"
 
@@ -17,7 +18,6 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QPainter>
 #include <QPixmap>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -49,16 +49,6 @@ Skin skinOf(const QString &name)
     if (lower == QLatin1String("mid"))
         return {QStringLiteral("black"), QString()};
     return {name, QString()};
-}
-
-void paintInto(QPrinter &printer, const QImage &image)
-{
-    QPainter painter(&printer);
-    const QRect viewport = painter.viewport();
-    const QSize size = image.size().scaled(viewport.size(), Qt::KeepAspectRatio);
-    painter.setViewport(viewport.x(), viewport.y(), size.width(), size.height());
-    painter.setWindow(image.rect());
-    painter.drawImage(0, 0, image);
 }
 } // namespace
 
@@ -281,5 +271,5 @@ void TFMultiCharts::slotPrintPng()
     const QImage image(slotSaveImage());
     // The picture goes to the default printer, whatever was chosen.
     QPrinter printer(QPrinter::ScreenResolution);
-    paintInto(printer, image);
+    TFChartPrint::paint(printer, image);
 }

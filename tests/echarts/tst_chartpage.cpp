@@ -4,13 +4,20 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QImage>
+#include <QImageReader>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QProcess>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWebEngineView>
 
 #include "chartjson.h"
+#include "echarts/tfchartprint.h"
 #include "echarts/tfmulticharts.h"
 #include "pagescript.h"
 #include "pageservice.h"
@@ -33,6 +40,12 @@ const char kRows[] = "[{'X':'a','V':1,'W':40},{'X':'b','V':2,'W':20},{'X':'c','V
 QString pivot(QString chart)
 {
     return chart.replace("'ChartType'", "'IsSwitchXAxis':true,'ChartType'");
+}
+
+/// The part of the picture of a chart without legend and axes.
+QImage plot(const QImage &image)
+{
+    return image.copy(image.rect().adjusted(60, 20, -140, -40));
 }
 
 int colours(const QImage &image)
@@ -79,6 +92,9 @@ private slots:
     void legendStandsWhereItIsTold();
     void menuOpensAtTheMouseAndAClickCopies();
     void savedPictureShowsTheChart();
+    void pictureIsSavedByTheDialog_data();
+    void pictureIsSavedByTheDialog();
+    void printedPageShowsThePicture();
     void outsideLinkLeavesThePage();
     void rowsComeFromTheService();
 
@@ -279,11 +295,75 @@ void TestChartPage::savedPictureShowsTheChart()
     QImage image;
     const auto save = [&] {
         image = QImage(m_chart->slotSaveImage(folder.filePath("chart")));
-        return colours(image.copy(image.rect().adjusted(20, 20, -100, -40))) > 8;
+        return colours(plot(image)) > 8;
     };
     QTRY_VERIFY(save());
     QCOMPARE(image.size(), m_chart->size() * m_chart->devicePixelRatioF());
     QCOMPARE(seriesTypes().split(',').size(), 2);
+}
+
+void TestChartPage::pictureIsSavedByTheDialog_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("format");
+    QTest::newRow("png") << "picture.png" << QByteArray("png");
+    QTest::newRow("jpg") << "picture.jpg" << QByteArray("jpeg");
+    QTest::newRow("given up") << QString() << QByteArray();
+}
+
+void TestChartPage::pictureIsSavedByTheDialog()
+{
+    QFETCH(QString, name);
+    QFETCH(QByteArray, format);
+    showChart(kMixed);
+    QTRY_VERIFY(colours(plot(m_chart->grab().toImage())) > 8);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    QString proposed, title;
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *edit = dialog->findChild<QLineEdit *>("fileNameEdit");
+        proposed = edit->text();
+        title = dialog->windowTitle() + ' ' + dialog->nameFilters().join(' ');
+        edit->setText(path);
+        name.isEmpty() ? dialog->reject() : static_cast<QDialog *>(dialog)->accept();
+    });
+
+    const QString saved = m_chart->slotSaveImage(QString());
+
+    QCOMPARE(proposed, QString("甲-乙"));
+    QCOMPARE(title, QString("保存 Images (*.png) Images (*.jpg)"));
+    QCOMPARE(saved, name.isEmpty() ? QString() : path);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), name.isEmpty() ? QStringList() : QStringList(name));
+    if (!name.isEmpty()) {
+        QImageReader reader(saved);
+        reader.setDecideFormatFromContent(true);
+        QCOMPARE(reader.format(), format);
+        QVERIFY(colours(plot(reader.read())) > 8);
+    }
+}
+
+void TestChartPage::printedPageShowsThePicture()
+{
+    showChart(kMixed);
+    QTRY_VERIFY(colours(plot(m_chart->grab().toImage())) > 8);
+    const QImage picture = m_chart->grab().toImage();
+    QTemporaryDir folder;
+    const QString file = folder.filePath("print.pdf");
+    {
+        QPrinter printer(QPrinter::ScreenResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(file);
+        TFChartPrint::paint(printer, picture);
+    }
+
+    QCOMPARE(QProcess::execute("pdftoppm", {"-png", "-singlefile", file, folder.filePath("page")}), 0);
+
+    const QImage page(folder.filePath("page.png"));
+    const QImage upper = page.copy(0, 0, page.width(), page.height() / 2);
+    QVERIFY(colours(upper) > 8);
+    QCOMPARE(colours(page.copy(0, page.height() / 2, page.width(), page.height() / 2)), 1);
 }
 
 void TestChartPage::outsideLinkLeavesThePage()
