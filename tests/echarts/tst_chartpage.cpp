@@ -240,6 +240,7 @@ void TestChartPage::titlesKeepTheMenuFromTheSkin()
     QCOMPARE(ask("menu.className").toString(), QString("menu_white"));
     TFCore::instance()->setCurrentSkin("black");
     QTRY_COMPARE(ask("option.backgroundColor").toString(), QString("#080B10"));
+    QCOMPARE(ask("tfCharts.getOption().title[0].textStyle.color").toString(), QString("#787878"));
     QCOMPARE(ask("menu.className").toString(), QString("menu_white"));
 }
 
