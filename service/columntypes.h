@@ -20,7 +20,9 @@ enum class StoredType {
     Unknown, ///< any value in any row, as in SQLite
     Number,
     Text,
-    Moment ///< a date, with or without a time of day
+    Moment, ///< a date, with or without a time of day
+    Truth,  ///< true or false, which travels as 1 or 0
+    Other   ///< anything else, which travels as its text
 };
 
 /// An output column of a statement, with its name in the database.

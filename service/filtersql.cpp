@@ -29,8 +29,9 @@ public:
             return refuse(filterPlace(m_condition.operandPosition),
                           QStringLiteral("no value for :%1 in filterParams").arg(m_condition.parameter));
         m_kind = m_columns.comparedAs(m_condition.field);
-        m_column = m_columns.inSql(m_condition.field);
-        m_mark = m_columns.dialect().mark(m_columns.stored(m_condition.field));
+        const StoredType stored = m_columns.stored(m_condition.field);
+        m_column = m_columns.dialect().comparable(m_columns.inSql(m_condition.field), stored);
+        m_mark = m_columns.dialect().mark(stored);
         const QJsonValue value =
             m_condition.parameter.isEmpty() ? m_condition.literal : m_parameters.value(m_condition.parameter);
         if (m_condition.op == FilterOperator::In || m_condition.op == FilterOperator::NotIn)

@@ -4,8 +4,9 @@
 #include "postgresvalues.h"
 #include "sqldialect.h"
 
+#include <QTimeZone>
+
 #include <cerrno>
-#include <cstring>
 
 #include <poll.h>
 
@@ -134,8 +135,10 @@ bool PostgresConnection::open(QString *fault)
     PQsetNoticeProcessor(connection, logNotice, nullptr);
     // Compiling a plan takes longer than a page's statement runs. A server without such settings may refuse
     // them.
-    for (const char *setting : {"default_transaction_read_only = on", "DateStyle = ISO", "jit = off"})
-        Piece(PQexec(connection, (QByteArray("SET ") + setting).constData()), &PQclear);
+    const QByteArray zone = "TimeZone = '" + QTimeZone::systemTimeZoneId() + '\'';
+    for (const QByteArray &setting : {QByteArray("default_transaction_read_only = on"),
+                                      QByteArray("DateStyle = ISO"), QByteArray("jit = off"), zone})
+        Piece(PQexec(connection, ("SET " + setting).constData()), &PQclear);
     return true;
 }
 

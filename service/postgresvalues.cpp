@@ -1,5 +1,6 @@
 #include "postgresvalues.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -10,17 +11,23 @@ namespace {
 // From the catalogue of types, where they never change.
 enum TypeOid : Oid {
     BoolOid = 16,
+    NameOid = 19,
     Int8Oid = 20,
     Int2Oid = 21,
     Int4Oid = 23,
     TextOid = 25,
     Float4Oid = 700,
     Float8Oid = 701,
+    UnknownOid = 705,
+    BpcharOid = 1042,
+    VarcharOid = 1043,
     DateOid = 1082,
     TimestampOid = 1114,
     TimestampTzOid = 1184,
     NumericOid = 1700
 };
+
+const int SecondsLength = 19; ///< of yyyy-MM-dd hh:mm:ss, without fractions and zone
 
 /// Where a quoted text or identifier ends that begins at \a at.
 int endOfQuoted(const QString &text, int at)
@@ -100,6 +107,7 @@ StoredType storedType(Oid type)
 {
     switch (type) {
     case BoolOid:
+        return StoredType::Truth;
     case Int2Oid:
     case Int4Oid:
     case Int8Oid:
@@ -111,8 +119,14 @@ StoredType storedType(Oid type)
     case TimestampOid:
     case TimestampTzOid:
         return StoredType::Moment;
-    default:
+    case NameOid:
+    case TextOid:
+    case UnknownOid:
+    case BpcharOid:
+    case VarcharOid:
         return StoredType::Text;
+    default:
+        return StoredType::Other;
     }
 }
 
@@ -136,6 +150,9 @@ QVariant storedValue(const PGresult *result, int row, int column)
         std::from_chars(text, text + length, real);
         return real;
     }
+    case TimestampOid:
+    case TimestampTzOid:
+        return QString::fromLatin1(text, std::min(length, SecondsLength));
     default:
         return QString::fromUtf8(text, length);
     }

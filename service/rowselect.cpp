@@ -19,7 +19,7 @@ QVariantList comparableCodes(const QVariantList &codes, StoredType stored)
     for (const QVariant &code : codes) {
         bool isNumber = true;
         const double number = code.toDouble(&isNumber);
-        if (stored != StoredType::Number)
+        if (stored != StoredType::Number && stored != StoredType::Truth)
             result << code.toString();
         else if (isNumber)
             result << boundNumber(number);
@@ -38,8 +38,10 @@ BoundSql blockCondition(const ServedView &served, const QVariantList &codes)
         return condition;
     }
     const Columns &columns = served.columns;
-    BoundSql condition{columns.inSql(view.blockField) + QStringLiteral(" IN ("), {}};
-    condition.append(boundList(comparableCodes(codes, columns.stored(view.blockField))));
+    const StoredType stored = columns.stored(view.blockField);
+    BoundSql condition{
+        columns.dialect().comparable(columns.inSql(view.blockField), stored) + QStringLiteral(" IN ("), {}};
+    condition.append(boundList(comparableCodes(codes, stored), columns.dialect().mark(stored)));
     condition.text += QLatin1Char(')');
     return condition;
 }

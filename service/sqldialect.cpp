@@ -32,6 +32,11 @@ ValueKind SqlDialect::comparedAs(ValueKind declared, StoredType) const
     return declared;
 }
 
+QString SqlDialect::comparable(const QString &column, StoredType) const
+{
+    return column;
+}
+
 QString SqlDialect::orderTerm(const QString &column, StoredType, bool isDescending) const
 {
     return isDescending ? column + QStringLiteral(" DESC") : column;
@@ -75,14 +80,23 @@ ValueKind PostgresDialect::comparedAs(ValueKind declared, StoredType stored) con
 {
     switch (stored) {
     case StoredType::Number:
+    case StoredType::Truth:
         return ValueKind::Number;
     case StoredType::Moment:
         return ValueKind::Date;
     case StoredType::Text:
+    case StoredType::Other:
         return declared == ValueKind::Date ? ValueKind::Date : ValueKind::Text;
     default:
         return declared;
     }
+}
+
+QString PostgresDialect::comparable(const QString &column, StoredType stored) const
+{
+    if (stored == StoredType::Truth)
+        return QStringLiteral("CAST(%1 AS INTEGER)").arg(column);
+    return stored == StoredType::Other ? QStringLiteral("CAST(%1 AS TEXT)").arg(column) : column;
 }
 
 QString PostgresDialect::orderTerm(const QString &column, StoredType stored, bool isDescending) const

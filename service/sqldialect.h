@@ -24,6 +24,9 @@ public:
     /// How values are compared with a column that is declared as \a declared and stored as \a stored.
     virtual ValueKind comparedAs(ValueKind declared, StoredType stored) const;
 
+    /// A quoted column so that such values can be compared with it.
+    virtual QString comparable(const QString &column, StoredType stored) const;
+
     /// A term of ORDER BY for a quoted column: NULL before every value, texts by their bytes.
     virtual QString orderTerm(const QString &column, StoredType stored, bool isDescending) const;
 
@@ -49,6 +52,7 @@ class PostgresDialect : public SqlDialect
 public:
     QString fieldName(const QString &column, const QStringList &spelled) const override;
     ValueKind comparedAs(ValueKind declared, StoredType stored) const override;
+    QString comparable(const QString &column, StoredType stored) const override;
     QString orderTerm(const QString &column, StoredType stored, bool isDescending) const override;
     QString like(const QString &column, StoredType stored) const override;
     QString mark(StoredType stored) const override;

@@ -28,6 +28,7 @@ private slots:
     void faultsAreRefused();
     void textsFromOutsideStayValues();
     void databaseFaultIsTheServersFault();
+    void theServersOwnTypesAreServed();
 
 private:
     QJsonObject ask(const QByteArray &body, int status = 200) const;
@@ -385,6 +386,38 @@ void TestRequestHandler::databaseFaultIsTheServersFault()
 
     QVERIFY(!reply.value(QStringLiteral("msg")).toString().contains(QStringLiteral("price")));
     QCOMPARE(view("{'obj_vw_id': 12, 'flag': 1}").isEmpty(), false);
+}
+
+void TestRequestHandler::theServersOwnTypesAreServed()
+{
+    if (!ServiceFixture::isPostgres())
+        QSKIP("SQLite has no such types");
+    m_fixture->change(
+        {QStringLiteral("CREATE TABLE kinds (u uuid, d date, t timestamptz, b boolean, n numeric)"),
+         QStringLiteral("INSERT INTO kinds SELECT CAST(md5(CAST(i AS text)) AS uuid), date '2020-01-01' + i,"
+                        " timestamp '2020-01-01 12:00:00.25' + i * interval '1 day', i % 2 = 0, i / 4.0"
+                        " FROM generate_series(1, 4) i")});
+    m_fixture->write(QStringLiteral("14.json"), object(R"({
+        'id': 14, 'name': 'x', 'sql': 'SELECT * FROM kinds', 'key': 'U', 'block': 'U',
+        'bands': [{'FieldName': 'U'}, {'FieldName': 'N', 'ValueType': 'Decimal'}, {'FieldName': 'B', 'ValueType': 'Int32'},
+                  {'FieldName': 'D', 'ValueType': 'DateTime'}, {'FieldName': 'T', 'ValueType': 'DateTime'}]})"));
+    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+    QCOMPARE(m_library->faults(), QStringList());
+    const auto numbers = [this](const QByteArray &more) {
+        return values(view("{'obj_vw_id': 14, 'flag': 1" + more + "}").value(QStringLiteral("Data")),
+                      QStringLiteral("N"));
+    };
+
+    QCOMPARE(numbers(", 'order': {'T': 1}, 'filter': '(D >= [2020-01-03]) && (T != [2020-01-04])'"),
+             "0.5 0.75 1");
+    QCOMPARE(numbers(", 'order': {'B': 1, 'D': -1}"), QStringLiteral("0.75 0.25 1 0.5"));
+    QCOMPARE(numbers(", 'filter': '(B == 1) && (N < 0.75)'"), QStringLiteral("0.5"));
+    QCOMPARE(numbers(", 'filter': '(U like :U)', 'filterParams': {'U': 'C4CA'}"), QStringLiteral("0.25"));
+    QCOMPARE(numbers(", 'filterBlock': ['c4ca4238-a0b9-2382-0dcc-509a6f75849b', 3]"), QStringLiteral("0.25"));
+    const QJsonArray rows =
+        view("{'obj_vw_id': 14, 'flag': 1, 'order': {'D': 1}}").value(QStringLiteral("Data")).toArray();
+    const QDateTime noon(QDate(2020, 1, 2), QTime(12, 0));
+    QCOMPARE(rows.first().toObject().value(QStringLiteral("T")).toDouble(), double(noon.toMSecsSinceEpoch()));
 }
 
 SUBJECT_TEST_MAIN(TestRequestHandler)
