@@ -17,7 +17,7 @@
 class TFPlainFormula
 {
 public:
-    /// The value of a field of the row at hand, null where the row has none.
+    /// The value of a field of the row at hand, null where the row has none. It is read before the next call.
     using FieldValue = std::function<const QVariant *(const QString &field)>;
 
     /// A piece of a formula, as it stands or to be replaced by the number of the field of that name.

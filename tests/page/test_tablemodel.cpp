@@ -278,7 +278,7 @@ void TableModelTest::compiledExpressionEqualsTheEvaluatedOne()
                                 ".length",    "'$use_default_color'",
                                 "null",       " || ",
                                 "!",          "//",
-                                "-",          "throw "};
+                                "-",          "(function(){throw 'red'})()"};
     const QStringList values = {"", "red", "5", "-1.5", "#123456", "none", "'"};
     const QVector<QString> fields = {"A", "B", "名", "C", "LAST"};
     std::mt19937 random(11);
