@@ -55,6 +55,7 @@ private slots:
     void keyboardOpensAndCloses();
     void frameMayGoWhileItsDialogIsOpen();
     void dialogStandsInTheMiddleAndMovesByItsTop();
+    void contentStaysOverTheShadow();
     void contentWithoutButtonsIsTold();
 
 private:
@@ -564,6 +565,22 @@ void SettingsTest::dialogStandsInTheMiddleAndMovesByItsTop()
         };
         QCOMPARE(drag("lbTitle", {40, 30}), QPoint(40, 30));
         QCOMPARE(drag("label_3", {40, 30}), QPoint());
+    });
+}
+
+void SettingsTest::contentStaysOverTheShadow()
+{
+    withDialog(m_frame, [](QWidget *dialog) {
+        const auto onScreen = [dialog] {
+            QCoreApplication::processEvents();
+            return dialog->screen()->grabWindow(dialog->winId()).toImage();
+        };
+        QTRY_VERIFY(dialog->findChild<QLineEdit *>());
+        QImage before;
+        QTRY_VERIFY(std::exchange(before, onScreen()) == before);
+        for (const char *corner : {"lbTitle", "pbOk"})
+            dialog->findChild<QWidget *>(corner)->update();
+        QCOMPARE(onScreen(), before);
     });
 }
 

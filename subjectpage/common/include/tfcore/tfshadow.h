@@ -22,7 +22,7 @@ public:
     {
         this->setWindowFlags(this->windowFlags() | Qt::FramelessWindowHint);
         this->setAttribute(Qt::WA_TranslucentBackground);
-        m_blurEffect->setBlurRadius(m_blurRadius);
+        setBlur();
         m_shadowFrame->setGraphicsEffect(m_blurEffect);
         m_shadowFrame->setStyleSheet(m_shadowStyle);
         m_shadowFrame->lower();
@@ -38,7 +38,7 @@ public:
     {
         m_shadowFrame->setStyleSheet(m_shadowStyle);
         this->setContentsMargins(m_margin, m_margin, m_margin, m_margin);
-        m_blurEffect->setBlurRadius(m_blurRadius);
+        setBlur();
         placeShadow();
         this->update();
     }
@@ -86,6 +86,14 @@ protected:
     }
 
 private:
+    void setBlur()
+    {
+        m_blurEffect->setBlurRadius(m_blurRadius);
+        // An effect paints the whole rectangle around what is to be painted anew, also over content that is
+        // not painted again.
+        m_blurEffect->setEnabled(m_blurRadius > 0);
+    }
+
     void placeShadow()
     {
         m_shadowFrame->setGeometry(m_blurRadius, m_blurRadius, this->width() - 2 * m_blurRadius,
