@@ -69,12 +69,24 @@ void showPlain(Grid &grid, QuoteModel &model)
 const char *lightSheet()
 {
     return "QWidget { background: #F3F5F8; color: #1F2733; }"
+           "QScrollBar { background: #F3F5F8; }"
+           "QScrollBar:vertical { width: 12px; } QScrollBar:horizontal { height: 12px; }"
+           "QScrollBar::handle { background: #B8C2CF; border-radius: 4px; margin: 2px;"
+           " min-width: 24px; min-height: 24px; }"
+           "QAbstractScrollArea::corner { border: none; }"
+           "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
            "Qtitan--Grid { qproperty-panelColor: #FFFFFF; qproperty-textColor: #1F2733; }";
 }
 
 const char *darkSheet()
 {
     return "QWidget { background: #080B10; color: #D7DEE8; }"
+           "QScrollBar { background: #080B10; }"
+           "QScrollBar:vertical { width: 12px; } QScrollBar:horizontal { height: 12px; }"
+           "QScrollBar::handle { background: #33425A; border-radius: 4px; margin: 2px;"
+           " min-width: 24px; min-height: 24px; }"
+           "QAbstractScrollArea::corner { border: none; }"
+           "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
            "Qtitan--Grid { qproperty-panelColor: #0E131B; qproperty-textColor: #D7DEE8;"
            " qproperty-headerBackground: #131A24; qproperty-headerText: #D7DEE8;"
            " qproperty-lineColor: #1E2733; qproperty-strongLineColor: #33425A;"

@@ -30,6 +30,13 @@ int QuoteModel::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : m_columns;
 }
 
+void QuoteModel::setDark(bool dark)
+{
+    m_dark = dark;
+    if (m_rows > 0)
+        emit dataChanged(index(0, 0), index(m_rows - 1, m_columns - 1), {Qt::ForegroundRole});
+}
+
 double QuoteModel::figure(int row, int column) const
 {
     // A scrambled counter: the same cell always has the same figure.
@@ -69,7 +76,8 @@ QVariant QuoteModel::data(const QModelIndex &index, int role) const
         return int((isFigure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::ForegroundRole:
         if (isFigure && index.column() % 3 == 0)
-            return figure(index.row(), index.column()) < 0 ? QColor(0x0B8A4B) : QColor(0xD6293E);
+            return figure(index.row(), index.column()) < 0 ? QColor(m_dark ? 0x2FC27E : 0x0B8A4B)
+                                                           : QColor(m_dark ? 0xFF5A6B : 0xD6293E);
         return QVariant();
     case valueRole:
         return isFigure ? QVariant(figure(index.row(), index.column())) : text(index.row(), index.column());

@@ -21,10 +21,14 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
+    /// Colours of rise and fall for a dark ground.
+    void setDark(bool dark);
+
 private:
     double figure(int row, int column) const;
     QString text(int row, int column) const;
 
     int m_rows;
     int m_columns;
+    bool m_dark = false;
 };

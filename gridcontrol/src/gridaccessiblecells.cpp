@@ -76,11 +76,15 @@ QString AccessibleCell::text(QAccessible::Text kind) const
 {
     if (!isValid())
         return QString();
-    if (kind == QAccessible::Description)
-        return m_area->view()->headerPath(m_area->columns().at(m_slot).column).join(QStringLiteral(" / "));
+    const RowGroup *group = m_area->rows().order().groupAt(m_line);
+    if (kind == QAccessible::Description) {
+        const GridColumn *column =
+            group ? m_area->view()->getColumn(m_area->rows().groupColumns().at(group->level))
+                  : m_area->columns().at(m_slot).column;
+        return m_area->view()->headerPath(column).join(QStringLiteral(" / "));
+    }
     if (kind != QAccessible::Name && kind != QAccessible::Value)
         return QString();
-    const RowGroup *group = m_area->rows().order().groupAt(m_line);
     const QString text = m_area->textOf(m_line, m_slot);
     return group && m_slot == 0 ? QStringLiteral("%1 (%2)").arg(text, QString::number(group->count())) : text;
 }

@@ -97,6 +97,8 @@ void GridArea::showEvent(QShowEvent *event)
     QAbstractItemView::showEvent(event);
     if (m_columnsDirty)
         layOutColumns();
+    scrollTo(m_scrollWhenShown);
+    m_scrollWhenShown = QModelIndex();
 }
 
 void GridArea::columnResized(const GridColumn *column)
@@ -284,6 +286,11 @@ void GridArea::scrollTo(const QModelIndex &index, ScrollHint hint)
 {
     if (!index.isValid())
         return;
+    // Until it is laid out, the view has no size to scroll by.
+    if (!isVisible()) {
+        m_scrollWhenShown = index;
+        return;
+    }
     const int top = index.row() * m_lineHeight;
     const int page = viewport()->height();
     if (hint == PositionAtCenter)

@@ -169,6 +169,7 @@ private:
     CellPlace m_hover;
     CellPlace m_pressed;
     QPersistentModelIndex m_anchor;
+    QPersistentModelIndex m_scrollWhenShown;
     QString m_marked;
     int m_lineHeight = 24;
     int m_levelHeight = 26;

@@ -34,6 +34,7 @@ GridHeader::GridHeader(GridArea *area)
     : QWidget(area)
     , m_area(area)
 {
+    setObjectName(QStringLiteral("gridHeader"));
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }

@@ -79,6 +79,7 @@ void GridAccessTest::groupRowTellsItsStateAndToggles()
     QAccessibleInterface *group = interfaceOf(grid)->tableInterface()->cellAt(0, 0);
 
     QCOMPARE(group->text(QAccessible::Name), QString("r0c1 (1)"));
+    QCOMPARE(group->text(QAccessible::Description), QString("c1"));
     QVERIFY(group->state().expandable && group->state().collapsed);
     group->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QVERIFY(interfaceOf(grid)->tableInterface()->cellAt(0, 0)->state().expanded);

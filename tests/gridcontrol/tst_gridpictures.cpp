@@ -70,6 +70,7 @@ void GridPicturesTest::initTestCase()
 QImage GridPicturesTest::picture(const QString &layout, bool dark, const QString &fault)
 {
     QuoteModel model(40, 16);
+    model.setDark(dark);
     Grid grid;
     grid.setStyleSheet(QString::fromLatin1(dark ? darkSheet() : lightSheet()) + fault);
     layout == "cells" ? showPlain(grid, model) : showBanded(grid, model);

@@ -12,6 +12,7 @@ class GridViewTest : public SubjectTest
 private slots:
     void rowsAreHandedOutAsTheModelCountsThem();
     void viewTakesTheFocusSilently();
+    void focusSetBeforeTheFirstShowIsInSight();
     void keysCrossTheFrozenEdge();
     void arrowsOpenAndCloseGroups();
     void clickOnAGroupRowTogglesIt();
@@ -58,6 +59,25 @@ void GridViewTest::viewTakesTheFocusSilently()
     table.click(table.middle(0, 0));
     QCOMPARE(focused.size(), 1);
     QCOMPARE(focused.first(), QVariantList({-1, 0}));
+}
+
+void GridViewTest::focusSetBeforeTheFirstShowIsInSight()
+{
+    QStandardItemModel model;
+    fill(model, 100, 30);
+    Grid grid;
+    grid.rootView()->setModel(&model);
+    grid.resize(500, 300);
+    QScrollBar *bar = grid.rootView()->itemView()->verticalScrollBar();
+
+    grid.rootView()->setFocusRow(3);
+    grid.show();
+    QCOMPARE(bar->value(), 0);
+
+    grid.hide();
+    grid.rootView()->setFocusRow(50);
+    grid.show();
+    QVERIFY(grid.rootView()->area()->lastVisibleLine() == 50);
 }
 
 void GridViewTest::keysCrossTheFrozenEdge()
