@@ -67,7 +67,7 @@ int bareQuery(service::Database &database, const service::BoundSql &sql)
     int rows = 0;
     for (; cursor.value().next(); ++rows) {
         for (int i = 0; i < columns; ++i)
-            cursor.value().value(i);
+            cursor.value().stored(i);
     }
     return rows;
 }

@@ -3,6 +3,7 @@
 #include "columntypes.h"
 #include "runlimit.h"
 #include "sqltemplate.h"
+#include "storedvalue.h"
 
 #include <memory>
 
@@ -38,8 +39,8 @@ public:
     /// Steps to the next row. False at the end and on a fault; fault() tells which.
     virtual bool next() = 0;
 
-    /// A value of the current row: qlonglong, double, QString, or a null variant.
-    virtual QVariant value(int column) const = 0;
+    /// A value of the current row.
+    virtual StoredValue stored(int column) const = 0;
 
     virtual QVector<StoredColumn> columns() const = 0;
     virtual DatabaseFault fault() const = 0;

@@ -66,7 +66,7 @@ public:
             group.cells += ',';
             json::appendText(group.cells, value + Separator + m_cross.values.at(i));
             group.cells += ':';
-            m_writer.appendValue(group.cells, cell.value(m_valuePlaces.at(i)),
+            m_writer.appendValue(group.cells, cell.stored(m_valuePlaces.at(i)),
                                  m_columns.kind(m_valuePlaces.at(i)));
         }
     }

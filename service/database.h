@@ -22,7 +22,8 @@ public:
     /// The refusal for the fault that ended the rows.
     Refusal refusal() const;
 
-    QVariant value(int column) const { return m_rows->value(column); }
+    StoredValue stored(int column) const { return m_rows->stored(column); }
+    QVariant value(int column) const { return stored(column).toVariant(); }
     QVector<StoredColumn> columns() const { return m_rows->columns(); }
 
 private:

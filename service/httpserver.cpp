@@ -28,6 +28,7 @@ QString header(const httplib::Request &request, const char *name)
     return QString::fromStdString(request.get_header_value(name));
 }
 
+/// The copy is on purpose: what a content provider lends is cut off when the server library stops.
 void setBody(httplib::Response &response, const QByteArray &body, const char *type)
 {
     response.set_content(body.constData(), static_cast<std::size_t>(body.size()), type);

@@ -1,5 +1,6 @@
 #include "jsonwriter.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -39,13 +40,11 @@ bool needsEscape(char c)
     return static_cast<unsigned char>(c) < 0x20 || c == '"' || c == '\\';
 }
 
-} // namespace
-
-void appendUtf8(QByteArray &out, const QByteArray &text)
+void appendEscapedRuns(QByteArray &out, const char *text, int size)
 {
     out += '"';
-    const char *run = text.constData();
-    const char *end = run + text.size();
+    const char *run = text;
+    const char *end = text + size;
     for (const char *at = run; at != end; ++at) {
         if (!needsEscape(*at))
             continue;
@@ -55,6 +54,26 @@ void appendUtf8(QByteArray &out, const QByteArray &text)
     }
     out.append(run, static_cast<int>(end - run));
     out += '"';
+}
+
+bool isAscii(const char *text, int size)
+{
+    return std::none_of(text, text + size, [](char c) { return static_cast<signed char>(c) < 0; });
+}
+
+} // namespace
+
+void appendUtf8(QByteArray &out, const QByteArray &text)
+{
+    appendEscapedRuns(out, text.constData(), text.size());
+}
+
+void appendStored(QByteArray &out, const char *text, int size)
+{
+    if (isAscii(text, size))
+        appendEscapedRuns(out, text, size);
+    else
+        appendText(out, QString::fromUtf8(text, size));
 }
 
 void appendText(QByteArray &out, const QString &text)
@@ -80,26 +99,17 @@ void appendInteger(QByteArray &out, qint64 number)
     out.append(digits, static_cast<int>(end - digits));
 }
 
-void appendVariant(QByteArray &out, const QVariant &value)
+void appendValue(QByteArray &out, const StoredValue &value)
 {
-    if (value.isNull()) {
-        out += "null";
-        return;
-    }
-    switch (value.userType()) {
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        appendInteger(out, value.toLongLong());
-        break;
-    case QMetaType::Double:
-    case QMetaType::Float:
-        appendNumber(out, value.toDouble());
-        break;
+    switch (value.kind) {
+    case StoredValue::Whole:
+        return appendInteger(out, value.whole);
+    case StoredValue::Real:
+        return appendNumber(out, value.real);
+    case StoredValue::Text:
+        return appendStored(out, value.text, value.size);
     default:
-        appendText(out, value.toString());
+        out += "null";
     }
 }
 

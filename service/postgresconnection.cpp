@@ -50,7 +50,7 @@ public:
         return true;
     }
 
-    QVariant value(int column) const override { return storedValue(m_result.get(), 0, column); }
+    StoredValue stored(int column) const override { return storedValue(m_result.get(), 0, column); }
     QVector<StoredColumn> columns() const override { return m_columns; }
     DatabaseFault fault() const override { return m_fault; }
 

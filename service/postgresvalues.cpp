@@ -48,15 +48,15 @@ Oid typeOf(const QVariant &value)
                : Int8Oid;
 }
 
-QVariant wholeOrReal(const char *digits, const char *end)
+StoredValue wholeOrReal(const char *digits, const char *end)
 {
     qlonglong whole = 0;
     const auto read = std::from_chars(digits, end, whole);
     if (read.ec == std::errc() && read.ptr == end)
-        return whole;
+        return StoredValue::ofWhole(whole);
     double real = 0;
     std::from_chars(digits, end, real);
-    return real;
+    return StoredValue::ofReal(real);
 }
 
 } // namespace
@@ -130,15 +130,15 @@ StoredType storedType(Oid type)
     }
 }
 
-QVariant storedValue(const PGresult *result, int row, int column)
+StoredValue storedValue(const PGresult *result, int row, int column)
 {
     if (PQgetisnull(result, row, column))
-        return QVariant(QVariant::String);
+        return {};
     const char *text = PQgetvalue(result, row, column);
     const int length = PQgetlength(result, row, column);
     switch (PQftype(result, column)) {
     case BoolOid:
-        return qlonglong(*text == 't');
+        return StoredValue::ofWhole(*text == 't');
     case Int2Oid:
     case Int4Oid:
     case Int8Oid:
@@ -148,13 +148,13 @@ QVariant storedValue(const PGresult *result, int row, int column)
     case Float8Oid: {
         double real = 0;
         std::from_chars(text, text + length, real);
-        return real;
+        return StoredValue::ofReal(real);
     }
     case TimestampOid:
     case TimestampTzOid:
-        return QString::fromLatin1(text, std::min(length, SecondsLength));
+        return StoredValue::ofText(text, std::min(length, SecondsLength));
     default:
-        return QString::fromUtf8(text, length);
+        return StoredValue::ofText(text, length);
     }
 }
 

@@ -34,7 +34,7 @@ private:
 /// The type of a result's column.
 StoredType storedType(Oid type);
 
-/// A value of a result as the rows carry it: qlonglong, double, QString, or a null variant.
-QVariant storedValue(const PGresult *result, int row, int column);
+/// A value of a result; its text lives as long as the result.
+StoredValue storedValue(const PGresult *result, int row, int column);
 
 } // namespace service

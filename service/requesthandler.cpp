@@ -14,14 +14,31 @@ namespace service {
 namespace {
 
 const int CellsPerRow = 10; // that a cross view may read, on average
+const int UsualReply = 64 * 1024;
 const char EnvelopeHead[] = "{\"state\":1,\"msg\":\"\",\"extend\":null,\"data\":";
 
 /// What `objId` of `/bas/ds/data` asks for.
 enum NamedObject { NavigationObject = 38, BlockObject = 43, ConstantsObject = 390 };
 
-Reply reply(const QByteArray &data, qint64 rows = 0)
+/// The beginning of a good reply. Rows are appended to it as they come, so that they are written once.
+QByteArray newBody(const char *start)
 {
-    return {200, EnvelopeHead + data + '}', rows, {}};
+    QByteArray body;
+    body.reserve(UsualReply);
+    return body += EnvelopeHead + QByteArray(start);
+}
+
+/// The reply that \a body is, once the envelope is closed.
+Reply closed(QByteArray &&body, qint64 rows = 0)
+{
+    body += '}';
+    return {200, std::move(body), rows, {}};
+}
+
+Reply reply(const QByteArray &data)
+{
+    QByteArray body = EnvelopeHead + data;
+    return closed(std::move(body));
 }
 
 void appendSummaryItem(QByteArray &out, const char *item, qint64 value)
@@ -60,20 +77,19 @@ Refusal tooManyRows(int limit)
     return {400, QStringLiteral("size: more than %1 rows; ask for them page by page").arg(limit)};
 }
 
-/// The rows of \a sql, which asks for one row more than may be sent.
-Result<QByteArray> allRows(const BoundSql &sql, const Columns &columns, int limit, Database &database,
-                           qint64 *count)
+/// Appends the rows of \a sql, which asks for one row more than may be sent, and gives their number.
+Result<qint64> appendRows(QByteArray &out, const BoundSql &sql, const Columns &columns, int limit,
+                          Database &database)
 {
     Result<Cursor> cursor = database.select(sql);
     if (!cursor.ok())
         return cursor.refusal();
-    QByteArray data;
-    *count = RowWriter(columns).appendAll(data, cursor.value());
+    const qint64 count = RowWriter(columns).appendAll(out, cursor.value());
     if (!cursor.value().isGood())
         return cursor.value().refusal();
-    if (*count > limit)
+    if (count > limit)
         return tooManyRows(limit);
-    return data;
+    return count;
 }
 
 } // namespace
@@ -151,17 +167,19 @@ Result<Reply> RequestHandler::rows(const ServedView &view, const ViewRequest &re
         return select.refusal();
     if (view.document.cross.isSet())
         return crossTable(view, request, select.value(), head, database);
-    qint64 count = 0;
+    QByteArray body = newBody("{");
+    body += head;
+    body += "\"Data\":";
     const Page wanted = request.page.value_or(Page{1, m_limits.rows + 1});
-    const Result<QByteArray> data =
-        allRows(select.value().page(wanted), view.columns, m_limits.rows, database, &count);
-    if (!data.ok())
-        return data.refusal();
-    const Result<qint64> total = totalRows(select.value(), request.page, count, database);
+    const Result<qint64> count =
+        appendRows(body, select.value().page(wanted), view.columns, m_limits.rows, database);
+    if (!count.ok())
+        return count.refusal();
+    const Result<qint64> total = totalRows(select.value(), request.page, count.value(), database);
     if (!total.ok())
         return total.refusal();
-    return reply('{' + head + "\"Data\":" + data.value() + ',' + summary(total.value(), request.page) + "]}",
-                 count);
+    body += ',' + summary(total.value(), request.page) + "]}";
+    return closed(std::move(body), count.value());
 }
 
 Result<Reply> RequestHandler::crossTable(const ServedView &view, const ViewRequest &request,
@@ -175,10 +193,11 @@ Result<Reply> RequestHandler::crossTable(const ServedView &view, const ViewReque
         crossRows(view, cells.value(), request.page, qint64(m_limits.rows) * CellsPerRow);
     if (!cross.ok())
         return cross.refusal();
-    QByteArray data = '{' + head + "\"Data\":" + cross.value().data + ',' +
+    QByteArray body = newBody("{") + head + "\"Data\":" + cross.value().data + ',' +
                       summary(cross.value().count, request.page) + ",{\"Item\":\"GridColumns\",\"value\":";
-    json::appendUtf8(data, cross.value().gridColumns);
-    return reply(data + "}]}", cross.value().count);
+    json::appendUtf8(body, cross.value().gridColumns);
+    body += "}]}";
+    return closed(std::move(body), cross.value().count);
 }
 
 Result<Reply> RequestHandler::list(const QString &name, const QJsonObject &body, Database &database) const
@@ -254,11 +273,11 @@ Result<Reply> RequestHandler::filtered(const RowSource &source, const QJsonObjec
         return filter.refusal();
     BoundSql sql = restricted(source.sql, {filter.value()});
     sql.append({QStringLiteral(" LIMIT ?"), {m_limits.rows + 1}});
-    qint64 count = 0;
-    const Result<QByteArray> data = allRows(sql, source.columns, m_limits.rows, database, &count);
-    if (!data.ok())
-        return data.refusal();
-    return reply(data.value(), count);
+    QByteArray out = newBody("");
+    const Result<qint64> count = appendRows(out, sql, source.columns, m_limits.rows, database);
+    if (!count.ok())
+        return count.refusal();
+    return closed(std::move(out), count.value());
 }
 
 } // namespace service

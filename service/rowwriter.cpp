@@ -10,38 +10,35 @@ RowWriter::RowWriter(const Columns &columns)
     for (int i = 0; i < columns.names().size(); ++i) {
         QByteArray key;
         json::appendText(key, columns.names().at(i));
-        m_keys << key + ':';
+        m_keys << (i == 0 ? '{' : ',') + key + ':';
         m_kinds << columns.kind(i);
     }
 }
 
-void RowWriter::appendValue(QByteArray &out, const QVariant &value, ValueKind kind)
+void RowWriter::appendValue(QByteArray &out, const StoredValue &value, ValueKind kind)
 {
-    if (kind == ValueKind::Date && value.userType() == QMetaType::QString) {
-        if (const auto milliseconds = m_clock.milliseconds(value.toString())) {
-            json::appendInteger(out, *milliseconds);
-            return;
-        }
+    if (kind == ValueKind::Date && value.kind == StoredValue::Text) {
+        if (const auto milliseconds = m_clock.milliseconds(value.text, value.size))
+            return json::appendInteger(out, *milliseconds);
     }
-    if (kind == ValueKind::Text && !value.isNull())
-        json::appendText(out, value.toString());
+    const bool isNumber = value.kind == StoredValue::Whole || value.kind == StoredValue::Real;
+    if (kind == ValueKind::Text && isNumber)
+        json::appendText(out, value.toVariant().toString());
     else
-        json::appendVariant(out, value);
+        json::appendValue(out, value);
 }
 
 void RowWriter::appendMember(QByteArray &out, const Cursor &cursor, int column)
 {
-    out += m_keys.at(column);
-    appendValue(out, cursor.value(column), m_kinds.at(column));
+    out.append(m_keys.at(column).constData() + 1, m_keys.at(column).size() - 1);
+    appendValue(out, cursor.stored(column), m_kinds.at(column));
 }
 
 void RowWriter::appendRow(QByteArray &out, const Cursor &cursor)
 {
-    char separator = '{';
     for (int i = 0; i < m_keys.size(); ++i) {
-        out += separator;
-        appendMember(out, cursor, i);
-        separator = ',';
+        out += m_keys.at(i);
+        appendValue(out, cursor.stored(i), m_kinds.at(i));
     }
     out += '}';
 }

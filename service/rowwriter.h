@@ -1,10 +1,10 @@
 #pragma once
 
 #include "columns.h"
+#include "storedvalue.h"
 #include "wiredate.h"
 
 #include <QByteArray>
-#include <QVariant>
 #include <QVector>
 
 namespace service {
@@ -27,10 +27,10 @@ public:
     void appendMember(QByteArray &out, const Cursor &cursor, int column);
 
     /// Appends the value of one column.
-    void appendValue(QByteArray &out, const QVariant &value, ValueKind kind);
+    void appendValue(QByteArray &out, const StoredValue &value, ValueKind kind);
 
 private:
-    QVector<QByteArray> m_keys; ///< `"name":` of each column
+    QVector<QByteArray> m_keys; ///< `,"name":` of each column, the first with `{`
     QVector<ValueKind> m_kinds;
     IsoClock m_clock;
 };

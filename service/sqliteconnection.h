@@ -2,11 +2,11 @@
 
 #include "connection.h"
 
-#include <QSqlDatabase>
-#include <QSqlQuery>
-
 #include <utility>
 #include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
 
 namespace service {
 
@@ -21,22 +21,32 @@ public:
     std::unique_ptr<RowStream> run(const BoundSql &sql, DatabaseFault *fault) override;
     const SqlDialect &dialect() const override;
 
-    /// Takes a statement back that has served.
-    void giveBack(const QString &text, std::unique_ptr<QSqlQuery> query);
+    struct StatementEnd
+    {
+        void operator()(sqlite3_stmt *statement) const;
+    };
+    using Statement = std::unique_ptr<sqlite3_stmt, StatementEnd>;
 
-    /// The fault that \a query ended with.
-    DatabaseFault faultOf(const QSqlQuery &query) const;
+    /// Takes a statement back that has served.
+    void giveBack(const QString &text, Statement statement);
+
+    /// The fault that the last step ended with; \a code is what it returned.
+    DatabaseFault faultOf(int code) const;
 
 private:
-    std::unique_ptr<QSqlQuery> prepared(const QString &text, DatabaseFault *fault);
-    void watchLimit();
+    bool execute(const char *sql) const;
+    Statement prepared(const QString &text, DatabaseFault *fault);
     bool isReplaced() const;
 
+    struct DatabaseEnd
+    {
+        void operator()(sqlite3 *database) const;
+    };
+
     QString m_file;
-    QString m_name;
-    QSqlDatabase m_database;
     quint64 m_inode = 0;
-    std::vector<std::pair<QString, std::unique_ptr<QSqlQuery>>> m_statements; ///< oldest first
+    std::unique_ptr<sqlite3, DatabaseEnd> m_database;
+    std::vector<std::pair<QString, Statement>> m_statements; ///< oldest first
 };
 
 } // namespace service

@@ -84,11 +84,11 @@ std::optional<WireDate> readIso(const QString &text)
 }
 
 /// The number of \a count digits at \a at; -1 where one is no digit.
-int digitsAt(const QString &text, int at, int count)
+int digitsAt(const char *text, int at, int count)
 {
     int number = 0;
     for (int i = at; i < at + count; ++i) {
-        const int digit = text.at(i).unicode() - '0';
+        const int digit = text[i] - '0';
         if (digit < 0 || digit > 9)
             return -1;
         number = number * 10 + digit;
@@ -97,10 +97,10 @@ int digitsAt(const QString &text, int at, int count)
 }
 
 /// The two forms that a database holds, without a regular expression: this runs for every cell.
-std::optional<QDateTime> readStored(const QString &text)
+std::optional<QDateTime> readStored(const char *text, int size)
 {
-    const bool hasTime = text.size() == 19;
-    if ((text.size() != 10 && !hasTime) || text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-'))
+    const bool hasTime = size == 19;
+    if ((size != 10 && !hasTime) || text[4] != '-' || text[7] != '-')
         return std::nullopt;
     const QDate date(digitsAt(text, 0, 4), digitsAt(text, 5, 2), digitsAt(text, 8, 2));
     const QTime time =
@@ -139,11 +139,11 @@ QDateTime fromMilliseconds(qint64 milliseconds)
     return QDateTime::fromMSecsSinceEpoch(milliseconds);
 }
 
-std::optional<qint64> IsoClock::milliseconds(const QString &text)
+std::optional<qint64> IsoClock::milliseconds(const char *text, int size)
 {
-    if (text != m_text) {
-        const auto moment = readStored(text);
-        m_text = text;
+    if (m_text != QByteArray::fromRawData(text, size)) {
+        const auto moment = readStored(text, size);
+        m_text = QByteArray(text, size);
         m_answer = moment ? std::optional<qint64>(moment->toMSecsSinceEpoch()) : std::nullopt;
     }
     return m_answer;

@@ -35,10 +35,10 @@ class IsoClock
 {
 public:
     /// Milliseconds, or nothing when \a text is no date.
-    std::optional<qint64> milliseconds(const QString &text);
+    std::optional<qint64> milliseconds(const char *text, int size);
 
 private:
-    QString m_text;
+    QByteArray m_text;
     std::optional<qint64> m_answer;
 };
 
