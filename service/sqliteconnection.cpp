@@ -22,18 +22,22 @@ const int BusyMilliseconds = 5000;
 class SqliteRows : public RowStream
 {
 public:
-    SqliteRows(SqliteConnection *connection, const QString &text, SqliteConnection::Statement statement)
+    /// \a firstStep is what the first step of \a statement returned.
+    SqliteRows(SqliteConnection *connection, const QString &text, SqliteConnection::Statement statement,
+               int firstStep)
         : m_connection(connection)
         , m_text(text)
         , m_statement(std::move(statement))
+        , m_code(firstStep)
     {}
 
     ~SqliteRows() override { m_connection->giveBack(m_text, std::move(m_statement)); }
 
     bool next() override
     {
-        if (m_code == SQLITE_ROW)
+        if (m_isStarted && m_code == SQLITE_ROW)
             m_code = sqlite3_step(m_statement.get());
+        m_isStarted = true;
         return m_code == SQLITE_ROW;
     }
 
@@ -72,7 +76,8 @@ private:
     SqliteConnection *m_connection;
     QString m_text;
     SqliteConnection::Statement m_statement;
-    int m_code = SQLITE_ROW; ///< of the last step; before the first one there may be a row
+    int m_code; ///< of the last step
+    bool m_isStarted = false;
 };
 
 int bindValue(sqlite3_stmt *statement, int place, const QVariant &value)
@@ -222,12 +227,14 @@ std::unique_ptr<RowStream> SqliteConnection::run(const BoundSql &sql, DatabaseFa
     Statement statement = prepared(sql.text, fault);
     if (!statement)
         return nullptr;
-    const int code = bindValues(statement.get(), sql.values);
-    if (code != SQLITE_OK) {
+    int code = bindValues(statement.get(), sql.values);
+    if (code == SQLITE_OK)
+        code = sqlite3_step(statement.get());
+    if (code != SQLITE_ROW && code != SQLITE_DONE) {
         *fault = faultOf(code);
         return nullptr;
     }
-    return std::make_unique<SqliteRows>(this, sql.text, std::move(statement));
+    return std::make_unique<SqliteRows>(this, sql.text, std::move(statement), code);
 }
 
 } // namespace service
