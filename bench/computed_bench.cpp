@@ -128,17 +128,18 @@ void compareAggregate(const QVector<Row> &rows, const QVector<QString> &names)
 
 TFRowStore storeOf(const QVector<Row> &rows, const QVector<QString> &names)
 {
-    TFRowStore store;
-    TFRowStore::Layout layout;
-    for (const QString &name : names) {
-        TFRowStore::Cell cell;
-        cell.fieldName = name;
-        layout.cells.append(cell);
+    QList<RowData> cells;
+    for (const Row &row : rows) {
+        RowData line;
+        for (int column = 0; column < names.size(); ++column) {
+            TFTableModelData::tagCellValue cell;
+            cell.fieldName = names.at(column);
+            cell.value = row.at(column);
+            line.append(cell);
+        }
+        cells.append(line);
     }
-    const int id = store.addLayout(layout);
-    for (const Row &row : rows)
-        std::copy(row.begin(), row.end(), store.appendRow(id, 0));
-    return store;
+    return TFRowStore::fromRows(cells);
 }
 
 void compareStyle(const QVector<Row> &rows, const QVector<QString> &names)
