@@ -127,7 +127,7 @@ private slots:
         const auto screen = [&](const QString &layout) { return head + "\"layout\": " + layout + '}'; };
         const auto row = [](const char *name, const QString &text, const QString &place,
                             const QString &layout) { testRow(name, text, place, layout); };
-        const QString deep = QString(R"({"row": [)").repeated(20) + good + QString("]}").repeated(20);
+        const QString deep = QString(R"({"row": [)").repeated(70) + good + QString("]}").repeated(70);
         const QString two = R"({"column": [%1, %1], "shares": [-1, 2]})";
         row("cut off", "{\n\"format\": \"comp", "line 2", "empty");
         row("not a screen", "{}", "format: ", "empty");

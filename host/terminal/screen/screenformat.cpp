@@ -24,7 +24,7 @@ const char SharesKey[] = "shares";
 const char RowKey[] = "row";
 const char ColumnKey[] = "column";
 /// Deeper than anyone can see; a file that nests further is damaged.
-constexpr int MaxDepth = 16;
+constexpr int MaxDepth = 64;
 constexpr double ShareDigits = 1e4;
 
 struct Texts
