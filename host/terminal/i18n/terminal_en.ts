@@ -623,6 +623,10 @@
         <source>&amp;Manage screens...</source>
         <translation>&amp;Manage screens...</translation>
     </message>
+    <message>
+        <source>&amp;Add component</source>
+        <translation>&amp;Add component</translation>
+    </message>
 </context>
 <context>
     <name>ScreenTab</name>
@@ -649,6 +653,17 @@
     <message>
         <source>and %1 more</source>
         <translation>and %1 more</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenView</name>
+    <message>
+        <source>Remove %1? Its settings are lost.</source>
+        <translation>Remove %1? Its settings are lost.</translation>
+    </message>
+    <message>
+        <source>Composite screen</source>
+        <translation>Composite screen</translation>
     </message>
 </context>
 <context>

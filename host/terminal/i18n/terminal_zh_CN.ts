@@ -623,6 +623,10 @@
         <source>&amp;Manage screens...</source>
         <translation>管理组合屏(&amp;M)...</translation>
     </message>
+    <message>
+        <source>&amp;Add component</source>
+        <translation>添加组件(&amp;A)</translation>
+    </message>
 </context>
 <context>
     <name>ScreenTab</name>
@@ -649,6 +653,17 @@
     <message>
         <source>and %1 more</source>
         <translation>另有 %1 处</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenView</name>
+    <message>
+        <source>Remove %1? Its settings are lost.</source>
+        <translation>移除“%1”？它的设置会丢失。</translation>
+    </message>
+    <message>
+        <source>Composite screen</source>
+        <translation>组合屏</translation>
     </message>
 </context>
 <context>

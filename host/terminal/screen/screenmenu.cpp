@@ -14,6 +14,7 @@ ScreenMenu::ScreenMenu(QWidget *window)
     : QMenu(window)
     , newScreen(new QAction(this))
     , save(new QAction(this))
+    , components(new QMenu(this))
     , arguments(new QAction(this))
     , manage(new QAction(this))
 {
@@ -21,7 +22,9 @@ ScreenMenu::ScreenMenu(QWidget *window)
     newScreen->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
     save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     window->addActions({newScreen, save});
-    addActions({newScreen, save, arguments});
+    addActions({newScreen, save});
+    addMenu(components);
+    addAction(arguments);
     addSeparator();
     m_listEnd = addSeparator();
     addAction(manage);
@@ -33,6 +36,7 @@ ScreenMenu::ScreenMenu(QWidget *window)
 void ScreenMenu::setScreenShown(bool shown)
 {
     save->setEnabled(shown);
+    components->setEnabled(shown);
     arguments->setEnabled(shown);
 }
 
@@ -57,6 +61,7 @@ void ScreenMenu::retranslate()
     setTitle(tr("&Composite screens"));
     newScreen->setText(tr("&New screen"));
     save->setText(tr("&Save screen"));
+    components->setTitle(tr("&Add component"));
     arguments->setText(tr("&Global arguments..."));
     manage->setText(tr("&Manage screens..."));
 }

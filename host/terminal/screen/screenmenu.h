@@ -17,6 +17,7 @@ public:
 
     QAction *const newScreen;
     QAction *const save;
+    QMenu *const components; ///< filled by its owner when it opens
     QAction *const arguments;
     QAction *const manage;
 

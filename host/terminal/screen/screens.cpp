@@ -7,6 +7,7 @@
 #include "screenlistdialog.h"
 #include "screenmenu.h"
 #include "screentab.h"
+#include "screenview.h"
 #include "settings.h"
 
 #include <QAction>
@@ -49,6 +50,12 @@ void Screens::connectMenu()
     connect(menu.save, &QAction::triggered, this, [this] {
         if (ScreenTab *tab = current())
             tab->save();
+    });
+    connect(menu.components, &QMenu::aboutToShow, this, [this, components = menu.components] {
+        m_catalog->fill(components, [this](const QByteArray &name) {
+            if (ScreenTab *tab = current())
+                tab->view().add(name);
+        });
     });
     connect(menu.arguments, &QAction::triggered, this, [this] {
         if (ScreenTab *tab = current())

@@ -7,6 +7,7 @@
 #include "tfcore/tfcore.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -83,7 +84,7 @@ ScreenCell *ScreenView::makeCell(const ScreenComponent &component)
     connect(
         cell, &ScreenCell::addRequested, this,
         [this, cell](const QByteArray &name, Qt::Orientation orientation) { add(name, orientation, cell); });
-    connect(cell, &ScreenCell::removeRequested, this, [this, cell] { remove(cell); });
+    connect(cell, &ScreenCell::removeRequested, this, [this, cell] { removeIfWanted(cell); });
     connect(cell, &ScreenCell::componentChanged, this, &ScreenView::componentChanged);
     return cell;
 }
@@ -171,6 +172,16 @@ void ScreenView::remove(ScreenCell *cell)
     setCurrent(before.size() < 2 ? nullptr : before.at(index > 0 ? index - 1 : 1));
     focusCurrent();
     emit layoutChanged();
+}
+
+/// A component that has been set up is not lost to a slip of the mouse.
+void ScreenView::removeIfWanted(ScreenCell *cell)
+{
+    const QString question = tr("Remove %1? Its settings are lost.").arg(cell->title());
+    if (cell->component().state.isEmpty() ||
+        QMessageBox::question(this, tr("Composite screen"), question, QMessageBox::Yes | QMessageBox::No,
+                              QMessageBox::No) == QMessageBox::Yes)
+        remove(cell);
 }
 
 void ScreenView::setRoot(QWidget *root)

@@ -53,6 +53,7 @@ private:
     void setRoot(QWidget *root);
     void replace(QWidget *present, QWidget *other);
     void follow(QWidget *focused);
+    void removeIfWanted(ScreenCell *cell);
     void setCurrent(ScreenCell *cell);
     void redraw();
 
