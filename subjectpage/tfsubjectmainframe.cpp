@@ -224,6 +224,16 @@ void TFSubjectMainFrame::openItem(qlonglong objVwId, const QString &title, const
     }
 }
 
+TFWebView *TFSubjectMainFrame::shownWebView() const
+{
+    return m_webView && m_ui.rightContainer->currentWidget() == m_webView ? m_webView : nullptr;
+}
+
+bool TFSubjectMainFrame::isLoading() const
+{
+    return !m_loadingLabel->isHidden();
+}
+
 void TFSubjectMainFrame::showGroup(const QString &text)
 {
     setWindowTitle(text.isEmpty() ? m_caption : m_caption + QLatin1Char(':') + text);

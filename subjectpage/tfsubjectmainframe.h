@@ -44,6 +44,14 @@ public:
     QMap<QString, QVariant> f9Arguments() const override { return m_f9Arguments; }
     FilterParam::DataSourceFilter blockFilter() const override;
 
+    TFTreeWidgetContainer *leftContainer() const { return m_ui.leftContainer; }
+    /// Null before the first refresh().
+    TFRightContainer *rightContainer() const { return m_rightContainer; }
+    /// The web view if it is on top, or null.
+    TFWebView *shownWebView() const;
+    /// Whether the navigation has not been dealt with.
+    bool isLoading() const;
+
     /// Requests the navigation, and builds the right side when called for the first time.
     void refresh();
 

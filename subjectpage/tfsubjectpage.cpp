@@ -5,6 +5,7 @@
 #include <QStyleOption>
 #include <QUrlQuery>
 
+#include "inspect/tfpageinspection.h"
 #include "records/tfcategories.h"
 #include "tfcore/tfcore.h"
 #include "tfmenucfg.h"
@@ -39,6 +40,9 @@ TFSubjectPage::TFSubjectPage(QWidget *parent)
     layout->addWidget(m_mainFrame);
     setLayout(layout);
     TFCore::instance()->addStyle2View(this, QStringLiteral("subject/subject.css"));
+    auto *inspection = new TFPageInspection(this, m_mainFrame);
+    connect(this, qOverload<QString>(&TFSubjectPage::signalWindowTitleChanged), inspection,
+            &TFPageInspection::setWindowTitle);
 }
 
 TFSubjectPage::~TFSubjectPage()

@@ -68,6 +68,25 @@ void TFSubjectTableExport::exportRows(int type, const TFUc::TFRequestContent &co
 {
     if (isBusy())
         return;
+    m_ending = ShowMessage;
+    m_folder.clear();
+    request(type, content, parser, header);
+}
+
+bool TFSubjectTableExport::exportTo(const QString &folder, const TFUc::TFRequestContent &content,
+                                    TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+{
+    if (isBusy())
+        return false;
+    m_ending = Silent;
+    m_folder = folder;
+    request(kOpenType, content, parser, header);
+    return true;
+}
+
+void TFSubjectTableExport::request(int type, const TFUc::TFRequestContent &content,
+                                   TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+{
     beginProgress();
     m_progress->setStep(tr("正在取数据..."));
     const auto take = [=, run = m_run](bool isOk, const QByteArray &data) {
@@ -79,6 +98,7 @@ void TFSubjectTableExport::exportRows(int type, const TFUc::TFRequestContent &co
         }
         qCDebug(lcExport) << "isOk:" << isOk << data;
         end();
+        fail(QStringLiteral("the rows did not arrive: ") + QString::fromUtf8(data));
     };
     TFDm::startRequest(content, this, take);
 }
@@ -90,6 +110,7 @@ void TFSubjectTableExport::takeReply(int type, const QByteArray &data, TFSubject
     if (!parser->parseData(data, &rows, header)) {
         qCWarning(lcExport) << "parse data failed";
         end();
+        fail(QStringLiteral("the rows that arrived can't be read"));
         return;
     }
     saveRows(type, *header->clone(), rows);
@@ -97,6 +118,10 @@ void TFSubjectTableExport::takeReply(int type, const QByteArray &data, TFSubject
 
 void TFSubjectTableExport::saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows)
 {
+    if (m_ending == Silent) {
+        save(QDir(m_folder).filePath(fileName()), header, rows, Silent);
+        return;
+    }
     const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(fileName());
     if (type == kOpenType) {
         saveAndOpen(uniqueFileName(path), header, rows);
@@ -185,6 +210,7 @@ void TFSubjectTableExport::beginProgress()
 {
     ++m_run;
     m_progress = new TFSubjectTableExportProgress(m_table);
+    m_progress->setAttribute(Qt::WA_DontShowOnScreen, m_ending == Silent);
     connect(m_progress, &QDialog::rejected, this, &TFSubjectTableExport::giveUp);
 }
 
@@ -245,6 +271,8 @@ void TFSubjectTableExport::showResult(const TFExcelWritterJob &job)
         return;
     }
     emit saved(job.path());
+    if (m_ending == Silent)
+        return;
     if (m_ending == OpenFile)
         QDesktopServices::openUrl(QUrl::fromUserInput(job.path()));
     else
@@ -252,7 +280,17 @@ void TFSubjectTableExport::showResult(const TFExcelWritterJob &job)
                                  QMessageBox::Ok);
 }
 
+void TFSubjectTableExport::fail(const QString &reason)
+{
+    if (m_ending == Silent)
+        emit failed(reason);
+}
+
 void TFSubjectTableExport::warn(const QString &text)
 {
+    if (m_ending == Silent) {
+        fail(text);
+        return;
+    }
     QMessageBox::warning(m_table, QStringLiteral("保存失败"), text, QMessageBox::Ok);
 }

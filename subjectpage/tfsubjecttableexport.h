@@ -49,6 +49,11 @@ public:
     void exportRows(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
                     TFTreeStruct *header);
 
+    /// The same without a question, a message or an opening: the workbook goes into \a folder, in place of one
+    /// of its name, and saved() or failed() tells of it. Returns false where an export is under way.
+    bool exportTo(const QString &folder, const TFUc::TFRequestContent &content,
+                  TFSubject::TFJsonParser *parser, TFTreeStruct *header);
+
     /// Writes \a header and \a rows to \a path and tells the user when they are saved. Asks for a file when
     /// \a path is empty; appends ".xlsx" where the name lacks it. Returns before the file is written.
     void saveWithMessage(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
@@ -65,12 +70,17 @@ public:
 signals:
     /// The workbook stands whole at \a path; comes before the message and the opening.
     void saved(const QString &path);
+    /// An export that exportTo() began came to nothing; a message box tells of the others.
+    void failed(const QString &reason);
     /// Nothing is under way any more, whatever became of it.
     void ended();
 
 private:
-    enum Ending { ShowMessage, OpenFile };
+    enum Ending { ShowMessage, OpenFile, Silent };
 
+    void request(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
+                 TFTreeStruct *header);
+    void fail(const QString &reason);
     void takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
     void saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
     void save(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows,
@@ -87,6 +97,7 @@ private:
     QWidget *m_table;
     Chooser m_chooser;
     Ending m_ending = ShowMessage;
+    QString m_folder; ///< of a silent export
     int m_run = 0; ///< number of the export under way; a reply to an earlier one is stale
     QTimer m_pollTimer;
     std::shared_ptr<TFExcelWritterJob> m_job;

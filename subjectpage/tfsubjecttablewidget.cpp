@@ -142,6 +142,7 @@ void TFSubjectTableWidget::reset(qint64 viewId)
 {
     m_filterBar->setFilterData({});
     setViewId(viewId);
+    m_isRequested = false;
     m_timeLabel->show();
     m_pageBar->reset();
     clear();
@@ -185,6 +186,26 @@ void TFSubjectTableWidget::finished()
     m_gridHolder->setMessage(QString());
     const double seconds = m_startTime.msecsTo(QTime::currentTime()) / kMillisecondsPerSecond;
     showState(QStringLiteral("耗时 %1 秒").arg(seconds, 0, 'f', 4), Qt::ArrowCursor);
+}
+
+QString TFSubjectTableWidget::status() const
+{
+    return m_timeLabel->text();
+}
+
+bool TFSubjectTableWidget::isLoading() const
+{
+    return cursor().shape() == Qt::WaitCursor;
+}
+
+bool TFSubjectTableWidget::isFilterBarShown() const
+{
+    return !m_filterBar->isHidden();
+}
+
+bool TFSubjectTableWidget::isPageBarShown() const
+{
+    return !m_pageLine->isHidden();
 }
 
 FilterParam::DataSourceFilter TFSubjectTableWidget::order() const

@@ -60,6 +60,17 @@ public:
     TFTreeStruct *header() const { return m_header.get(); }
     TFSubject::TFJsonParser *parser() const { return m_parser; }
     TFSubjectTableExport *tableExport() const { return m_export; }
+    /// Text of the line below the rows: loading, elapsed time, no data.
+    QString status() const;
+    bool isLoading() const;
+    /// Whether rows have been requested for the present page.
+    bool isRequested() const { return m_isRequested; }
+    bool isFilterBarShown() const;
+    bool isPageBarShown() const;
+
+    /// Writes a workbook into \a folder as the export command does, without a question; see
+    /// TFSubjectTableExport::exportTo().
+    void exportTo(const QString &folder);
 
     void clear() override;
     bool parseConfig(const QJsonValue &json, bool isNew) override;
@@ -105,6 +116,7 @@ private:
     void takePage(bool isOk, const QByteArray &data);
     void takeWholeSet(bool isOk, const QByteArray &data);
     void exportRows(int type);
+    TFUc::TFRequestContent exportRequest() const;
     bool isStillWanted();
     bool isOrder() const;
     bool showReply(const TFRowsReply &reply, int flag);
@@ -121,6 +133,7 @@ private:
     bool m_isMain;
     bool m_filterBarVisible;
     bool m_pageBarVisible = true;
+    bool m_isRequested = false;
     int m_total = 0;
     QVBoxLayout *m_layout;
     TFSujectTableView *m_grid = nullptr; ///< null until rows have arrived

@@ -118,6 +118,7 @@ void TFSubjectTableWidget::requestPage(int page, int size, bool noPaging)
     const TFUc::TFRequestContent content =
         TFUc::viewDataRequest(viewId(), requestParameters(), filters(), {noPaging, page, size});
     m_dm->startRequest(content, [this](bool isOk, const QByteArray &data) { takePage(isOk, data); });
+    m_isRequested = true;
     m_sentContent = content;
 }
 
@@ -146,6 +147,7 @@ void TFSubjectTableWidget::requestWholeSet()
     startLoading();
     if (!m_dm)
         return;
+    m_isRequested = true;
     m_dm->startRequest(TFUc::wholeDataRequest(viewId(), requestParameters(), filters()),
                        [this](bool isOk, const QByteArray &data) { takeWholeSet(isOk, data); });
 }
@@ -271,7 +273,16 @@ void TFSubjectTableWidget::setDataCount(int total, int pageIndex, int pageSize)
 
 void TFSubjectTableWidget::exportRows(int type)
 {
-    const TFUc::TFRequestContent content = TFUc::viewDataRequest(
-        viewId(), requestParameters(), filters(), {true, m_pageBar->currentPage(), m_pageBar->perCnt()});
-    m_export->exportRows(type, content, m_parser, m_header.get());
+    m_export->exportRows(type, exportRequest(), m_parser, m_header.get());
+}
+
+void TFSubjectTableWidget::exportTo(const QString &folder)
+{
+    m_export->exportTo(folder, exportRequest(), m_parser, m_header.get());
+}
+
+TFUc::TFRequestContent TFSubjectTableWidget::exportRequest() const
+{
+    return TFUc::viewDataRequest(viewId(), requestParameters(), filters(),
+                                 {true, m_pageBar->currentPage(), m_pageBar->perCnt()});
 }

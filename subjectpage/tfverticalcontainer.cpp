@@ -41,6 +41,11 @@ void TFVerticalContainer::setTitle(const QString &title)
     setWindowTitle(title);
 }
 
+QString TFVerticalContainer::title() const
+{
+    return m_title->text();
+}
+
 void TFVerticalContainer::setTitleVisible(bool visible)
 {
     m_title->setVisible(visible);

@@ -22,6 +22,7 @@ public:
     void setSizes(const QList<int> &sizes);
     /// Sets the text of the title line and the window title.
     void setTitle(const QString &title);
+    QString title() const;
     /// The title line is hidden at first.
     void setTitleVisible(bool visible);
     bool isTitleVisible() const;

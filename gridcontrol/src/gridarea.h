@@ -95,6 +95,7 @@ public:
 
     /// Follows the link of a cell, or else presses its button; false if it has neither.
     bool activateCell(int line, int slot, int button);
+    bool followLink(int line, int slot);
     bool isGroupLine(int line) const { return m_rows->order().groupAt(line) != nullptr; }
     void toggleGroup(int line);
     void setAllGroupsOpen(bool open);
@@ -145,7 +146,6 @@ private:
     void updateLine(int line);
     QRect changedRect(const QModelIndex &first, const QModelIndex &last) const;
     void reportDataChanged(const QModelIndex &first, const QModelIndex &last);
-    bool followLink(int line, int slot);
     bool pressButton(int line, int slot, int button);
     bool groupKey(QKeyEvent *event);
     bool showToolTip(const QPoint &point, const QPoint &global);

@@ -256,6 +256,22 @@ QVector<int> GridViewBase::selectedRows() const
     return rows;
 }
 
+QVector<GridGroup> GridViewBase::groups() const
+{
+    QVector<GridGroup> groups;
+    const RowOrder &order = m_area->rows().order();
+    for (int line = 0; order.groupCount() > 0 && line < order.lineCount(); ++line)
+        if (const RowGroup *group = order.groupAt(line))
+            groups.append({group->key, group->level, group->count(), group->open});
+    return groups;
+}
+
+bool GridViewBase::followLink(int modelRow, const GridColumn *column)
+{
+    const int line = m_area->rows().order().lineOf(modelRow);
+    return line >= 0 && m_area->followLink(line, m_area->columns().slotOf(column));
+}
+
 void GridViewBase::deselectAll()
 {
     m_area->clearSelection();

@@ -1,7 +1,10 @@
 #include "tfcore/itfabstractpage.h"
+#include "tfcore/itfinspection.h"
 #include "tfcore/itfnavigation.h"
 
 ITFInterface::~ITFInterface() = default;
+
+ITFInspection::~ITFInspection() = default;
 
 void ITFAbstractPage::init(const QUrl &, QVariant)
 {}

@@ -1,14 +1,21 @@
 #include "options.h"
 #include "terminal.h"
+#include "virtualdisplay.h"
 
 #include "tfcore/tfwebprocesses.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 
 #include <cstdio>
 #include <unistd.h>
 
 namespace {
+enum ExitCode { NotShown = 1, WrongUsage = 2 };
+
+constexpr QSize PageSize(1400, 900);
+
 void prepareToolkit()
 {
     QCoreApplication::setApplicationName("subject-terminal");
@@ -26,7 +33,6 @@ void prepareToolkit()
 
 int printInstead(const ParsedOptions &parsed, int argc, char *argv[])
 {
-    constexpr int WrongUsage = 2;
     if (parsed.outcome == ParsedOptions::WrongUsage) {
         std::fprintf(stderr, "%s\n", qPrintable(parsed.fault));
         return WrongUsage;
@@ -35,6 +41,23 @@ int printInstead(const ParsedOptions &parsed, int argc, char *argv[])
     const bool help = parsed.outcome == ParsedOptions::Help;
     std::puts(qPrintable(help ? optionsHelp() : QString("subject-terminal " TERMINAL_VERSION)));
     return 0;
+}
+
+/// Gets what rendering needs: a folder to write into and a display. Returns the status to end with, 0 to go on.
+int prepareRendering(const Options &options, VirtualDisplay *display)
+{
+    const QString folder = options.render.folder;
+    if (!QDir().mkpath(folder) || !QFileInfo(folder).isWritable()) {
+        std::fprintf(stderr, "--out: the folder can't be written: %s\n", qPrintable(folder));
+        return WrongUsage;
+    }
+    if (VirtualDisplay::isDisplayThere())
+        return 0;
+    const QString fault = display->start(options.size.isValid() ? options.size : PageSize);
+    if (fault.isEmpty())
+        return 0;
+    std::fprintf(stderr, "%s\n", qPrintable(fault));
+    return NotShown;
 }
 } // namespace
 
@@ -48,6 +71,10 @@ int main(int argc, char *argv[])
     const ParsedOptions parsed = parseOptions(arguments);
     if (parsed.outcome != ParsedOptions::Start)
         return printInstead(parsed, argc, argv);
+    VirtualDisplay display;
+    const int fault = parsed.options.render.isWanted() ? prepareRendering(parsed.options, &display) : 0;
+    if (fault != 0)
+        return fault;
     QApplication application(argc, argv);
     Terminal terminal(parsed.options);
     terminal.start();

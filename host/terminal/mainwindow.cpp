@@ -132,6 +132,15 @@ void MainWindow::openStringUrl(QString url)
         m_notice->tell(NoticeBar::Page, tr("Nothing on this computer opens %1").arg(url));
 }
 
+void MainWindow::showPageAlone()
+{
+    setAttribute(Qt::WA_DontShowOnScreen);
+    menuBar()->hide();
+    m_address->hide();
+    m_tabs->hideTabBar();
+    show();
+}
+
 void MainWindow::redraw()
 {
     setWindowIcon(Look::icon("terminal"));

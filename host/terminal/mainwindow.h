@@ -31,6 +31,8 @@ public:
 
     /// Opens the home page in a new tab.
     void openHome();
+    /// Leaves nothing but the page on top, off the screen: for pictures of pages.
+    void showPageAlone();
     /// Draws what depends on the skin.
     void redraw();
 

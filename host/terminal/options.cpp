@@ -24,6 +24,7 @@ void addOptions(QCommandLineParser &parser)
         {"screenshot", "Draw the window into a picture when the page stands, and end.", "file"},
         {"size", "Size of the window, 1400x900 for instance.", "WxH"},
     });
+    RenderOptions::addTo(parser);
 }
 
 std::optional<QString> given(const QCommandLineParser &parser, const QString &name)
@@ -34,7 +35,7 @@ std::optional<QString> given(const QCommandLineParser &parser, const QString &na
 /// Text that says what is wrong with the values, or an empty one.
 QString faultOf(const QCommandLineParser &parser)
 {
-    if (!parser.positionalArguments().isEmpty())
+    if (!parser.positionalArguments().isEmpty() && !parser.isSet("render"))
         return QString("unexpected argument: %1").arg(parser.positionalArguments().first());
     if (parser.isSet("service")) {
         const QUrl url(parser.value("service"), QUrl::StrictMode);
@@ -90,10 +91,14 @@ ParsedOptions parseOptions(const QStringList &arguments)
         return {ParsedOptions::Help, {}, {}};
     if (parser.isSet(version))
         return {ParsedOptions::Version, {}, {}};
-    const QString fault = faultOf(parser);
+    QString fault = faultOf(parser);
     if (!fault.isEmpty())
         return {ParsedOptions::WrongUsage, {}, fault};
-    return {ParsedOptions::Start, read(parser), {}};
+    Options options = read(parser);
+    options.render = RenderOptions::from(parser, &fault);
+    if (!fault.isEmpty())
+        return {ParsedOptions::WrongUsage, {}, fault};
+    return {ParsedOptions::Start, options, {}};
 }
 
 QString optionsHelp()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "renderoptions.h"
+
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -24,6 +26,7 @@ struct Options
     bool verbose = false;
     QString screenshot; ///< file to grab the window into; the terminal ends after it
     QSize size;
+    RenderOptions render; ///< the terminal ends when this is done
 };
 
 /// Outcome of reading the command line: options, or what to print instead of starting.

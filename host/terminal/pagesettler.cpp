@@ -42,7 +42,7 @@ void PageSettler::start(int timeoutMs)
 
 void PageSettler::look()
 {
-    if (QThreadPool::globalInstance()->activeThreadCount() > 0)
+    if (QThreadPool::globalInstance()->activeThreadCount() > 0 || (m_isAtWork && m_isAtWork()))
         m_quiet.start();
     if (m_quiet.elapsed() >= (showsWebPage() ? QuietWithWebMs : QuietMs)) {
         m_poll.stop();

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
+
 /// Tells when the pages have come to rest: no request is out and the last reply has been shown.
 class PageSettler : public QObject
 {
@@ -12,6 +14,8 @@ class PageSettler : public QObject
 public:
     explicit PageSettler(QObject *parent = nullptr);
 
+    /// Asks \a isAtWork for what else is under way.
+    void setWork(std::function<bool()> isAtWork) { m_isAtWork = std::move(isAtWork); }
     /// Starts watching; settled() or timedOut() follows once.
     void start(int timeoutMs);
 
@@ -26,4 +30,5 @@ private:
     QElapsedTimer m_total;
     QElapsedTimer m_quiet;
     int m_timeoutMs = 0;
+    std::function<bool()> m_isAtWork;
 };

@@ -3,6 +3,7 @@
 #include "pagefactory.h"
 #include "terminallog.h"
 #include "tfcore/itfabstractpage.h"
+#include "tfcore/itfinspection.h"
 
 #include <QLabel>
 #include <QMetaMethod>
@@ -21,6 +22,19 @@ PageTab::PageTab(const PageFactory *factory, const QUrl &url, QWidget *parent)
 QString PageTab::title() const
 {
     return m_title.isEmpty() ? m_url.toString() : m_title;
+}
+
+ITFInspection *PageTab::inspection() const
+{
+    if (!m_page)
+        return nullptr;
+    if (auto *own = qobject_cast<ITFInspection *>(m_page.data()))
+        return own;
+    for (QObject *child : m_page->children()) {
+        if (auto *inspection = qobject_cast<ITFInspection *>(child))
+            return inspection;
+    }
+    return nullptr;
 }
 
 void PageTab::open()

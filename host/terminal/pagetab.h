@@ -5,6 +5,7 @@
 #include <QPointer>
 
 class ITFAbstractPage;
+class ITFInspection;
 class PageFactory;
 class QLabel;
 class QVBoxLayout;
@@ -26,6 +27,7 @@ public:
     /// Makes the page of url().
     void open() override;
     void reload() override;
+    ITFInspection *inspection() const override;
 
 private slots:
     void setPageTitle(const QString &title);

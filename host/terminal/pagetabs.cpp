@@ -113,6 +113,19 @@ QString PageTabs::hint() const
     return m_hint->text();
 }
 
+void PageTabs::hideTabBar()
+{
+    m_tabs->tabBar()->hide();
+    // The line between tabs and page goes with them.
+    m_tabs->setStyleSheet("#PageTabs::pane { border: 0; top: 0; }");
+}
+
+void PageTabs::closeAll()
+{
+    while (m_tabs->count() > 0)
+        close(at(0));
+}
+
 void PageTabs::closeCurrent()
 {
     close(current());

@@ -31,9 +31,12 @@ public:
     /// What is said while no page is open.
     void setHint(const QString &text);
     QString hint() const;
+    /// Leaves the whole room to the page.
+    void hideTabBar();
 
 public slots:
     void closeCurrent();
+    void closeAll();
     void reloadCurrent();
     void reloadAll();
     /// Goes to the next (\a step 1) or previous (-1) tab, around the ends.

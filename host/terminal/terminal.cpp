@@ -13,6 +13,7 @@
 #include "pagetabs.h"
 #include "pluginmanager.h"
 #include "programfolders.h"
+#include "renderrun.h"
 #include "screen/componentcatalog.h"
 #include "screen/screens.h"
 #include "terminallog.h"
@@ -28,6 +29,8 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <cstdio>
+
 /// A library's resources are not linked unless something asks for them.
 static void initResources()
 {
@@ -39,11 +42,14 @@ namespace {
 const char ServiceKey[] = "servercfg.ini:Subject";
 constexpr int ScreenshotTimeoutMs = 60000;
 
-enum ExitCode { Shown = 0, NotShown = 1, TimedOut = 3 };
+enum ExitCode { Shown = 0, NotShown = 1, WrongUsage = 2, TimedOut = 3 };
 
 /// \a stored with what the command line says instead.
 Endpoint effectiveEndpoint(Endpoint stored, const Options &options)
 {
+    // Who names a database to render from means that one.
+    if (options.render.isWanted() && !(options.database + options.views).isEmpty())
+        stored.service = QUrl();
     if (options.service)
         stored.service = QUrl(*options.service);
     stored.user = options.user.value_or(stored.user);
@@ -84,8 +90,17 @@ void Terminal::start()
     connect(m_service.get(), &ServiceProcess::failed, this, &Terminal::serviceFailed);
     m_languages->set(m_options.language.value_or(m_settings.language()));
     prepareCore();
+    const QString fault = isRendering() ? skinFault() : QString();
+    if (!fault.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(fault));
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(WrongUsage); });
+        return;
+    }
     makeWindow();
-    m_window->show();
+    if (isRendering())
+        m_window->showPageAlone();
+    else
+        m_window->show();
     useEndpoint(m_endpoint);
     QTimer::singleShot(0, this, &Terminal::loadPlugins);
 }
@@ -97,6 +112,14 @@ void Terminal::prepareCore()
     core->setSkinRoot(orElse(m_options.skinPath, ProgramFolders::skins()));
     m_look->prepare(qApp);
     m_look->setSkin(m_options.skin.value_or(m_settings.skin()));
+}
+
+QString Terminal::skinFault() const
+{
+    const QStringList skins = TFCore::instance()->skins();
+    if (!m_options.skin || skins.contains(*m_options.skin))
+        return {};
+    return QString("--skin: %1 is not one of %2").arg(*m_options.skin, skins.join(", "));
 }
 
 void Terminal::makeWindow()
@@ -197,7 +220,9 @@ void Terminal::serviceFailed(const QString &reason)
     m_window->tabs().setHint(tr("There is no data service: %1").arg(reason));
     m_window->notice().setServiceAction(tr("Try again"));
     m_window->notice().tell(NoticeBar::Service, tr("There is no data service: %1").arg(reason));
-    if (!isInteractive())
+    if (isRendering() && !m_pagesOpened)
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(NotShown); });
+    else if (!isInteractive() && !isRendering())
         QTimer::singleShot(0, this, [this] { writeScreenshot(true); });
 }
 
@@ -206,6 +231,10 @@ void Terminal::openFirstPages()
     if (!m_pluginsLoaded || !m_serviceKnown || m_pagesOpened)
         return;
     m_pagesOpened = true;
+    if (isRendering()) {
+        render();
+        return;
+    }
     if (m_options.pages.isEmpty() && m_options.screens.isEmpty())
         m_window->openHome();
     if (isInteractive())
@@ -238,6 +267,17 @@ void Terminal::setLanguage(const QString &code)
     m_settings.setLanguage(code);
     m_languages->set(code);
     fillTopics();
+}
+
+void Terminal::render()
+{
+    m_render = std::make_unique<RenderRun>(m_options.render, m_window.get(),
+                                           [this](const QString &skin) { return m_look->setSkin(skin); });
+    connect(m_render.get(), &RenderRun::finished, this, [this](int status) {
+        shutdown();
+        QCoreApplication::exit(status);
+    });
+    m_render->start();
 }
 
 void Terminal::takeScreenshot()

@@ -16,6 +16,7 @@ class MainWindow;
 class MessageCollector;
 class PageFactory;
 class PluginManager;
+class RenderRun;
 class Screens;
 
 /// The running application: brings up the window, the plug-ins and the data service side by side, and opens
@@ -52,7 +53,10 @@ private:
     void takeScreenshot();
     void writeScreenshot(bool settled);
     void shutdown();
-    bool isInteractive() const { return m_options.screenshot.isEmpty(); }
+    QString skinFault() const;
+    void render();
+    bool isRendering() const { return m_options.render.isWanted(); }
+    bool isInteractive() const { return m_options.screenshot.isEmpty() && !isRendering(); }
 
     Options m_options;
     Settings m_settings;
@@ -70,4 +74,5 @@ private:
     std::unique_ptr<ServiceProcess> m_service;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<Screens> m_screens;
+    std::unique_ptr<RenderRun> m_render;
 };

@@ -4,6 +4,8 @@
 #include <QUrl>
 #include <QWidget>
 
+class ITFInspection;
+
 /// What stands in a tab of the terminal.
 class TerminalTab : public QWidget
 {
@@ -22,6 +24,8 @@ public:
     virtual void open() = 0;
     /// Makes the contents anew.
     virtual void reload() = 0;
+    /// What reads and works the contents without a user; null where they don't offer it.
+    virtual ITFInspection *inspection() const { return nullptr; }
     /// Whether the tab may go. It keeps what is to be kept, and asks the user if it cannot.
     virtual bool mayClose() { return true; }
 

@@ -113,6 +113,7 @@ void TFDataSource::clear()
 {
     m_set.clear();
     m_tables.erase(TFTableId::Data);
+    recordSent({});
     emit signalClear();
 }
 
@@ -140,6 +141,11 @@ QString TFDataSource::caption() const
 bool TFDataSource::isCross() const
 {
     return viewConfig() && viewConfig()->isCross();
+}
+
+bool TFDataSource::isPie() const
+{
+    return TFChartData::isPie(m_chart);
 }
 
 bool TFDataSource::isFilterShown() const
@@ -181,20 +187,30 @@ void TFDataSource::slotWebConnectFinished()
     emit signalCanShowChart();
 }
 
+void TFDataSource::recordSent(const QByteArray &message)
+{
+    m_lastMessage = message;
+    ++m_sentCount;
+}
+
 void TFDataSource::slotRefreshChartDaTa()
 {
     if (!TFChartData::isPie(m_chart)) {
-        emit signalMixedChartData(TFChartData::mixedMessage(m_set, m_chart));
+        recordSent(TFChartData::mixedMessage(m_set, m_chart));
+        emit signalMixedChartData(m_lastMessage);
         return;
     }
     const QByteArray message = m_chart.IsSwitchXAxis ? TFChartData::pivotPieMessage(m_set, m_chart)
                                                      : TFChartData::pieMessage(m_set, m_chart);
-    if (!message.isEmpty())
-        emit signalPieData(message);
+    if (message.isEmpty())
+        return;
+    recordSent(message);
+    emit signalPieData(message);
 }
 
 void TFDataSource::slotChangedTheme(QByteArray theme)
 {
+    m_theme = theme;
     emit signalChangeTheme(theme);
 }
 

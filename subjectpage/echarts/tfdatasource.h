@@ -46,6 +46,13 @@ public:
     /// The pair "order" and a JSON object of field name to 1 or -1, or a null pair.
     FilterParam::DataSourceFilter order() const;
     QList<TFTableModelData::FilterData> filterList() const;
+    /// The last message that went to the page; empty before the first and after a clear.
+    QByteArray lastMessage() const { return m_lastMessage; }
+    /// Whether the chart in force is a pie.
+    bool isPie() const;
+    /// Messages and clears sent so far.
+    int sentCount() const { return m_sentCount; }
+    QByteArray theme() const { return m_theme; }
     /// Whether the filter control of the field \a name feeds a top-level key of the request.
     bool isFilterLive(const QString &name) const;
 
@@ -72,6 +79,7 @@ public slots:
     void slotAlert(QString text);
 
 private:
+    void recordSent(const QByteArray &message);
     void readTables(const QJsonObject &object);
     template <typename Table> Table *table(int id) const;
     TFViewConfigTable *viewConfig() const;
@@ -81,6 +89,9 @@ private:
     void build(TFChartData::ChartSet &set, const TFChartData::Rows &rows,
                const TFChartData::Config &config) const;
 
+    QByteArray m_lastMessage;
+    QByteArray m_theme;
+    int m_sentCount = 0;
     std::map<int, std::unique_ptr<TFBaseJsonTable>> m_tables; ///< by TFTableId
     TFChartData::ChartSet m_set;
     TFChartData::Config m_chart; ///< of the chart table in force, without its series

@@ -4,6 +4,7 @@
 #include "tfchartview.h"
 #include "tfdatasource.h"
 
+#include <QJsonValue>
 #include <QStandardPaths>
 
 #include <memory>
@@ -30,6 +31,10 @@ public:
 
     bool isPageReady() const { return m_isPageReady; }
     QWebEngineView *webView() const { return m_webView; }
+    TFFilterWidget *filterBar() const { return m_filterBar; }
+    const TFDataSource &dataSource() const { return m_dataSource; }
+    /// The document of the last parseConfig().
+    QJsonValue configuration() const { return m_configuration; }
 
     bool isChartData() const override;
     void requestData() override;
@@ -67,6 +72,7 @@ private:
     void updateFilters();
 
     TFDataSource m_dataSource;
+    QJsonValue m_configuration;
     QWebEngineView *m_webView;
     QWebChannel *m_channel;
     QHBoxLayout *m_layout;

@@ -64,6 +64,11 @@ void TFBaseFilterWidget::showCaption()
     m_caption->setVisible(!row().Caption.isEmpty());
 }
 
+QString TFBaseFilterWidget::shownCaption() const
+{
+    return m_caption && !m_caption->isHidden() ? m_caption->text() : QString();
+}
+
 void TFBaseFilterWidget::takeAsDefault()
 {
     if (!m_caption)

@@ -17,7 +17,6 @@ public:
     TFSubWidgetExpandData(const TFTableModelData::FilterData &row, QWidget *parent);
     ~TFSubWidgetExpandData() override;
 
-protected:
     TFTableModelData::FilterData row() const { return m_row; }
 
 private:
@@ -35,6 +34,9 @@ public:
 
     /// What the control reports now. An empty key means that it contributes nothing.
     virtual FilterParam::Cntrl getCntrl() const = 0;
+
+    /// Text of the caption as it is shown; empty without one.
+    QString shownCaption() const;
 
     /// Takes what the control shows now as its default. From here on a dot beside the caption tells that it
     /// shows something else. Buttons and hidden controls have no such dot.

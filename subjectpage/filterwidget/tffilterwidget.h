@@ -36,6 +36,8 @@ public:
     void updateF9Filters(FilterParam::Cntrl &cntrl);
     /// What the controls report, in the order of the bar.
     QList<FilterParam::Cntrl> getCntrls() const;
+    /// In the order of the bar; owned by it.
+    QList<TFBaseFilterWidget *> controls() const { return m_controls; }
     /// Whether the field \a key travels as a top-level key of the request.
     bool isDataSourceFilter(const QString &key) const;
     /// Selects \a text in the unit control, where the bar has one.

@@ -169,7 +169,7 @@ void TFMultiYear::slotActionCheckStatusChanged(bool checked)
         m_chosen.append(index);
     rebuildText();
     // The menu stays open for further ticks; a bar that is not on the screen has nothing to open.
-    if (m_button->isVisible())
+    if (m_button->isVisible() && !m_menu->isVisible())
         QMetaObject::invokeMethod(m_button, &QToolButton::showMenu, Qt::QueuedConnection);
 }
 

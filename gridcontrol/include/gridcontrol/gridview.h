@@ -18,6 +18,15 @@ QT_END_NAMESPACE
 namespace Qtitan {
 
 class GridArea;
+
+/// A group of rows, as a group row shows it.
+struct GridGroup
+{
+    QString key;
+    int level = 0;
+    int count = 0; ///< rows of the model in it
+    bool isOpen = false;
+};
 class GridBase;
 class GridViewOptions;
 
@@ -76,6 +85,13 @@ public:
     QVector<int> visibleRows() const;
     /// Model rows that have a selected cell, in the order of the screen.
     QVector<int> selectedRows() const;
+
+    /// Group rows as they stand on the screen, from top to bottom.
+    QVector<GridGroup> groups() const;
+
+    /// Does what a click on the link in that cell does. False where the cell is not on the screen or shows no
+    /// link.
+    bool followLink(int modelRow, const GridColumn *column);
 
     void deselectAll();
     void selectAll();
