@@ -84,6 +84,16 @@ bool TFSubjectTableExport::exportTo(const QString &folder, const TFUc::TFRequest
     return true;
 }
 
+bool TFSubjectTableExport::saveTo(const QString &folder, const TFTreeStruct &header,
+                                  const QList<QList<QVariant>> &rows)
+{
+    if (isBusy())
+        return false;
+    m_ending = Silent;
+    save(QDir(folder).filePath(fileName()), header, rows, Silent);
+    return true;
+}
+
 void TFSubjectTableExport::request(int type, const TFUc::TFRequestContent &content,
                                    TFSubject::TFJsonParser *parser, TFTreeStruct *header)
 {

@@ -54,6 +54,9 @@ public:
     bool exportTo(const QString &folder, const TFUc::TFRequestContent &content,
                   TFSubject::TFJsonParser *parser, TFTreeStruct *header);
 
+    /// Writes \a header and \a rows in the same quiet way.
+    bool saveTo(const QString &folder, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
+
     /// Writes \a header and \a rows to \a path and tells the user when they are saved. Asks for a file when
     /// \a path is empty; appends ".xlsx" where the name lacks it. Returns before the file is written.
     void saveWithMessage(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);

@@ -32,8 +32,9 @@ PageSettler::PageSettler(QObject *parent)
     connect(TFRequestLog::instance(), &TFRequestLog::finished, this, [this] { m_quiet.start(); });
 }
 
-void PageSettler::start(int timeoutMs)
+void PageSettler::start(int timeoutMs, bool isForPicture)
 {
+    m_isForPicture = isForPicture;
     m_timeoutMs = timeoutMs;
     m_total.start();
     m_quiet.start();
@@ -44,7 +45,7 @@ void PageSettler::look()
 {
     if (QThreadPool::globalInstance()->activeThreadCount() > 0 || (m_isAtWork && m_isAtWork()))
         m_quiet.start();
-    if (m_quiet.elapsed() >= (showsWebPage() ? QuietWithWebMs : QuietMs)) {
+    if (m_quiet.elapsed() >= (m_isForPicture && showsWebPage() ? QuietWithWebMs : QuietMs)) {
         m_poll.stop();
         emit settled();
     } else if (m_total.elapsed() >= m_timeoutMs) {

@@ -16,8 +16,8 @@ public:
 
     /// Asks \a isAtWork for what else is under way.
     void setWork(std::function<bool()> isAtWork) { m_isAtWork = std::move(isAtWork); }
-    /// Starts watching; settled() or timedOut() follows once.
-    void start(int timeoutMs);
+    /// Starts watching; settled() or timedOut() follows once. \a isForPicture leaves web pages the time to draw.
+    void start(int timeoutMs, bool isForPicture = true);
 
 signals:
     void settled();
@@ -30,5 +30,6 @@ private:
     QElapsedTimer m_total;
     QElapsedTimer m_quiet;
     int m_timeoutMs = 0;
+    bool m_isForPicture = true;
     std::function<bool()> m_isAtWork;
 };

@@ -6,7 +6,7 @@
 #include <cmath>
 
 namespace {
-constexpr int MaximumTimeout = 24 * 3600; // seconds
+constexpr int MaximumTimeout = 24 * 3600; // seconds; ten times as many milliseconds are an int
 const QStringList Companions{"out", "xlsx", "select-row", "timeout", "script"};
 const QStringList Rivals{"page", "screenshot"};
 

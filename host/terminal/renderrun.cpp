@@ -17,6 +17,7 @@
 namespace {
 const QStringList OutsideSchemes{"http", "https", "ftp", "mailto", "file"};
 const char PageName[] = "page";
+constexpr int ExportPatience = 10; ///< a workbook may take as many times the limit of a page
 
 /// What is said of a page that does not offer a description: every key, and nothing in it.
 QJsonObject emptyDescription(const PageTab *tab)
@@ -44,10 +45,7 @@ RenderRun::RenderRun(const RenderOptions &options, MainWindow *window,
 {
     m_settler.setWork([this] { return inspection() && inspection()->isAtWork(); });
     connect(&m_settler, &PageSettler::settled, this, &RenderRun::goOn);
-    connect(&m_settler, &PageSettler::timedOut, this, [this] {
-        m_isTimedOut = true;
-        conclude();
-    });
+    connect(&m_settler, &PageSettler::timedOut, this, &RenderRun::giveUp);
     for (const QString &scheme : OutsideSchemes)
         QDesktopServices::setUrlHandler(scheme, this, "refuseAddress");
 }
@@ -73,6 +71,7 @@ void RenderRun::openNext()
     m_requests.restart();
     m_steps = stepsOfPage();
     m_stepName.clear();
+    m_isExporting = false;
     m_isTimedOut = false;
     m_window->openStringUrl(m_options.urls.at(m_page));
     wait();
@@ -94,7 +93,17 @@ QList<RenderRun::Step> RenderRun::stepsOfPage() const
 
 void RenderRun::wait()
 {
-    m_settler.start(m_options.timeoutMs);
+    const bool isPictureNext = m_steps.isEmpty() || m_steps.first().values.value("do") == "snapshot";
+    m_settler.start(m_isExporting ? m_options.timeoutMs * ExportPatience : m_options.timeoutMs, isPictureNext);
+}
+
+void RenderRun::giveUp()
+{
+    // A page whose workbook is late is shown all the same.
+    m_isTimedOut = !m_isExporting;
+    if (m_isExporting)
+        complain(m_stepName + ": the workbook was not written in time", TimedOut);
+    conclude();
 }
 
 void RenderRun::goOn()
@@ -103,6 +112,7 @@ void RenderRun::goOn()
     if (reason.isEmpty() && !m_steps.isEmpty()) {
         const Step step = m_steps.takeFirst();
         m_stepName = step.name;
+        m_isExporting = step.values.value("do") == "export";
         if (perform(step.values, &reason)) {
             wait();
             return;

@@ -52,6 +52,7 @@ private:
 
     void openNext();
     void wait();
+    void giveUp();
     void goOn();
     bool perform(const QJsonObject &step, QString *reason);
     bool performOnPage(QJsonObject step, QString *reason);
@@ -76,6 +77,7 @@ private:
     int m_page = -1;
     QList<Step> m_steps; ///< still to be done
     QString m_stepName;  ///< the last that was begun, empty before the first
+    bool m_isExporting = false;
     bool m_isTimedOut = false;
     int m_status = Shown;
 };

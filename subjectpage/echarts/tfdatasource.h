@@ -46,6 +46,10 @@ public:
     /// The pair "order" and a JSON object of field name to 1 or -1, or a null pair.
     FilterParam::DataSourceFilter order() const;
     QList<TFTableModelData::FilterData> filterList() const;
+    /// What the next message is made of.
+    const TFChartData::ChartSet &chartSet() const { return m_set; }
+    /// Field of the X axis.
+    QString xField() const { return m_chart.XFieldName; }
     /// The last message that went to the page; empty before the first and after a clear.
     QByteArray lastMessage() const { return m_lastMessage; }
     /// Whether the chart in force is a pie.

@@ -143,7 +143,6 @@ void TFMultiCharts::clear()
 
 bool TFMultiCharts::parseConfig(const QJsonValue &config, bool)
 {
-    m_configuration = config;
     m_dataSource.loadConfig(config);
     m_filterBar->setVisible(m_dataSource.isFilterShown());
     m_filterBar->setFilterData(m_dataSource.filterList());

@@ -4,7 +4,6 @@
 #include "tfchartview.h"
 #include "tfdatasource.h"
 
-#include <QJsonValue>
 #include <QStandardPaths>
 
 #include <memory>
@@ -33,8 +32,6 @@ public:
     QWebEngineView *webView() const { return m_webView; }
     TFFilterWidget *filterBar() const { return m_filterBar; }
     const TFDataSource &dataSource() const { return m_dataSource; }
-    /// The document of the last parseConfig().
-    QJsonValue configuration() const { return m_configuration; }
 
     bool isChartData() const override;
     void requestData() override;
@@ -72,7 +69,6 @@ private:
     void updateFilters();
 
     TFDataSource m_dataSource;
-    QJsonValue m_configuration;
     QWebEngineView *m_webView;
     QWebChannel *m_channel;
     QHBoxLayout *m_layout;

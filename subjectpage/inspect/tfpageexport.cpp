@@ -1,11 +1,43 @@
 #include "tfpageexport.h"
 
 #include "echarts/tfmulticharts.h"
-#include "jsonparser/tfjsonparser.h"
 #include "mulittable/tfheaderdatastruct.h"
-#include "net/tfuc.h"
 #include "tfsubjecttableexport.h"
 #include "tfsubjecttablewidget.h"
+
+#include <cmath>
+
+namespace {
+void addColumn(TFTreeStruct *header, const QString &caption, const QString &valueType)
+{
+    HeaderFieldInfo info;
+    info.fieldName = caption;
+    info.caption = caption;
+    info.valueType = valueType;
+    info.visible = true;
+    header->addChild(new TFTreeStruct(info));
+}
+
+void fillHeader(TFTreeStruct *header, const TFDataSource &source)
+{
+    addColumn(header, source.xField(), QStringLiteral("String"));
+    for (const TFChartData::ChartSeries &series : source.chartSet().series)
+        addColumn(header, series.name, QStringLiteral("Decimal"));
+}
+
+QList<QList<QVariant>> rowsOf(const TFChartData::ChartSet &set)
+{
+    QList<QList<QVariant>> rows;
+    for (int i = 0; i < set.labels.size(); ++i) {
+        QList<QVariant> row{set.labels.at(i)};
+        for (const TFChartData::ChartSeries &series : set.series)
+            row.append(i < series.values.size() && std::isfinite(series.values.at(i)) ? series.values.at(i)
+                                                                                      : QVariant());
+        rows.append(row);
+    }
+    return rows;
+}
+} // namespace
 
 TFPageExport::TFPageExport(QObject *parent)
     : QObject(parent)
@@ -43,20 +75,16 @@ bool TFPageExport::start(TFBaseView *view, const QString &folder, QString *reaso
 
 bool TFPageExport::startChart(TFMultiCharts *chart, const QString &folder, QString *reason)
 {
-    auto *source = new TFSubjectTableExport(chart);
-    auto *parser = new TFSubject::TFJsonParser(source);
-    m_chartHeader = std::make_unique<TFTreeStruct>(QString());
-    if (!parser->parseConfig(chart->configuration(), m_chartHeader.get()) || m_chartHeader->leaves().isEmpty()) {
-        *reason = QStringLiteral("the document of the chart describes no columns");
-        delete source;
+    if (!chart->dataSource().hasSeries()) {
+        *reason = QStringLiteral("the chart shows nothing");
         return false;
     }
-    m_chartHeader->showBands();
-    watch(source);
-    connect(source, &TFSubjectTableExport::ended, source, &QObject::deleteLater);
-    const TFUc::TFRequestContent content =
-        TFUc::viewDataRequest(chart->viewId(), chart->requestParameters(), chart->filters(), {true, 1, 1});
-    source->exportTo(folder, content, parser, m_chartHeader.get());
+    auto *target = new TFSubjectTableExport(chart);
+    watch(target);
+    connect(target, &TFSubjectTableExport::ended, target, &QObject::deleteLater);
+    TFTreeStruct header{QString()};
+    fillHeader(&header, chart->dataSource());
+    target->saveTo(folder, header, rowsOf(chart->dataSource().chartSet()));
     return true;
 }
 

@@ -4,15 +4,13 @@
 #include <QPointer>
 #include <QString>
 
-#include <memory>
-
 class TFBaseView;
+class TFDataSource;
 class TFMultiCharts;
 class TFSubjectTableExport;
-class TFTreeStruct;
 
-/// Writes the rows of a page's main view into a workbook, by the export of the table. The rows of a chart are
-/// written under the columns that its document describes.
+/// Writes a page's main view into a workbook: a table by its own export; of a chart the labels of its X axis and, a
+/// column each, the values of its series.
 class TFPageExport : public QObject
 {
     Q_OBJECT
@@ -33,6 +31,5 @@ private:
     void watch(TFSubjectTableExport *source);
 
     QPointer<TFSubjectTableExport> m_export;
-    std::unique_ptr<TFTreeStruct> m_chartHeader;
     QString m_fault;
 };
