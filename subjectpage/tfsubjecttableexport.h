@@ -49,8 +49,8 @@ public:
     void exportRows(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
                     TFTreeStruct *header);
 
-    /// The same without a question, a message or an opening: the workbook goes into \a folder, in place of one
-    /// of its name, and saved() or failed() tells of it. Returns false where an export is under way.
+    /// The same without a question, a message or an opening: the workbook goes into \a folder, in place of
+    /// one of its name, and saved() or failed() tells of it. Returns false where an export is under way.
     bool exportTo(const QString &folder, const TFUc::TFRequestContent &content,
                   TFSubject::TFJsonParser *parser, TFTreeStruct *header);
 
@@ -101,7 +101,7 @@ private:
     Chooser m_chooser;
     Ending m_ending = ShowMessage;
     QString m_folder; ///< of a silent export
-    int m_run = 0; ///< number of the export under way; a reply to an earlier one is stale
+    int m_run = 0;    ///< number of the export under way; a reply to an earlier one is stale
     QTimer m_pollTimer;
     std::shared_ptr<TFExcelWritterJob> m_job;
     TFSubjectTableExportProgress *m_progress = nullptr; ///< there while an export is under way

@@ -1,6 +1,6 @@
 #include "options.h"
+#include "render/virtualdisplay.h"
 #include "terminal.h"
-#include "virtualdisplay.h"
 
 #include "tfcore/tfwebprocesses.h"
 
@@ -43,7 +43,8 @@ int printInstead(const ParsedOptions &parsed, int argc, char *argv[])
     return 0;
 }
 
-/// Gets what rendering needs: a folder to write into and a display. Returns the status to end with, 0 to go on.
+/// Gets what rendering needs: a folder to write into and a display. Returns the status to end with, 0 to go
+/// on.
 int prepareRendering(const Options &options, VirtualDisplay *display)
 {
     const QString folder = options.render.folder;
@@ -54,7 +55,7 @@ int prepareRendering(const Options &options, VirtualDisplay *display)
     if (VirtualDisplay::isDisplayThere())
         return 0;
     const QString fault = display->start(options.size.isValid() ? options.size : PageSize);
-    if (fault.isEmpty())
+    if (fault.isEmpty() || VirtualDisplay::isPlatformWithoutDisplay())
         return 0;
     std::fprintf(stderr, "%s\n", qPrintable(fault));
     return NotShown;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderoptions.h"
+#include "render/renderoptions.h"
 
 #include <QSize>
 #include <QString>

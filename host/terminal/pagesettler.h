@@ -16,7 +16,8 @@ public:
 
     /// Asks \a isAtWork for what else is under way.
     void setWork(std::function<bool()> isAtWork) { m_isAtWork = std::move(isAtWork); }
-    /// Starts watching; settled() or timedOut() follows once. \a isForPicture leaves web pages the time to draw.
+    /// Starts watching; settled() or timedOut() follows once. \a isForPicture leaves web pages the time to
+    /// draw.
     void start(int timeoutMs, bool isForPicture = true);
 
 signals:

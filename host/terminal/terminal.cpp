@@ -13,7 +13,7 @@
 #include "pagetabs.h"
 #include "pluginmanager.h"
 #include "programfolders.h"
-#include "renderrun.h"
+#include "render/renderrun.h"
 #include "screen/componentcatalog.h"
 #include "screen/screens.h"
 #include "terminallog.h"

@@ -25,14 +25,10 @@ namespace TFChartDescription {
 
 QJsonObject describe(const TFMultiCharts &chart)
 {
-    return {{"status", QString()},
-            {"loading", !chart.isPageReady()},
-            {"bands", QJsonArray()},
-            {"columns", QJsonArray()},
-            {"rows", QJsonArray()},
-            {"groups", QJsonArray()},
-            {"paging", QJsonValue()},
-            {"chart", messageOf(chart.dataSource())}};
+    return {{"status", QString()},    {"loading", !chart.isPageReady()},
+            {"bands", QJsonArray()},  {"columns", QJsonArray()},
+            {"rows", QJsonArray()},   {"groups", QJsonArray()},
+            {"paging", QJsonValue()}, {"chart", messageOf(chart.dataSource())}};
 }
 
 QString state(const TFMultiCharts &chart)

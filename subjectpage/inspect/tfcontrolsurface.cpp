@@ -58,9 +58,10 @@ QList<QPair<QWidget *, QString>> TFControlSurface::assigned(const QJsonValue &va
     if (m_parts.size() > 1 && texts.size() != m_parts.size())
         texts = texts.join(QLatin1Char(' ')).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     if (m_parts.isEmpty() || texts.size() != m_parts.size()) {
-        *reason = m_parts.isEmpty()
-                      ? QStringLiteral("the control has nothing to set")
-                      : QStringLiteral("the control takes %1 value(s), %2 given").arg(m_parts.size()).arg(texts.size());
+        *reason = m_parts.isEmpty() ? QStringLiteral("the control has nothing to set")
+                                    : QStringLiteral("the control takes %1 value(s), %2 given")
+                                          .arg(m_parts.size())
+                                          .arg(texts.size());
         return {};
     }
     QList<QPair<QWidget *, QString>> assigned;
@@ -92,7 +93,8 @@ bool TFControlSurface::setValue(const QJsonValue &value, QString *reason)
     for (int i = 0; !isTaken && i < parts.size(); ++i)
         TFControlParts::set(parts.at(i).first, before.at(i));
     if (!isTaken)
-        *reason = QStringLiteral("the control does not take %1 now").arg(textsOf(value).join(QStringLiteral(", ")));
+        *reason =
+            QStringLiteral("the control does not take %1 now").arg(textsOf(value).join(QStringLiteral(", ")));
     return isTaken;
 }
 

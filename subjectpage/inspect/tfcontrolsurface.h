@@ -9,8 +9,8 @@ class QToolButton;
 class QWidget;
 class TFBaseFilterWidget;
 
-/// What the user sees of a control of the filter bar, and his hand on it: the boxes, lines and buttons that it is
-/// made of, whatever its class.
+/// What the user sees of a control of the filter bar, and his hand on it: the boxes, lines and buttons that
+/// it is made of, whatever its class.
 class TFControlSurface
 {
 public:
@@ -25,9 +25,9 @@ public:
 
     /// Sets the parts as a user does.
     ///
-    /// A single part takes a text or a number, one with ticks the list of those to be ticked. Several parts take
-    /// a list with a text or number each, or the texts joined by blanks. Returns false, with the reason, where
-    /// the value does not fit; nothing is changed then.
+    /// A single part takes a text or a number, one with ticks the list of those to be ticked. Several parts
+    /// take a list with a text or number each, or the texts joined by blanks. Returns false, with the reason,
+    /// where the value does not fit; nothing is changed then.
     bool setValue(const QJsonValue &value, QString *reason);
 
     /// Presses the control's button; false where it has none or it can't be pressed.

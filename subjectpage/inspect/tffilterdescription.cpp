@@ -12,7 +12,8 @@ namespace TFFilterDescription {
 
 QJsonArray reports(const TFFilterWidget &bar)
 {
-    // The bar leaves out the controls without a key, in its order; its reports alone lack the configured word.
+    // The bar leaves out the controls without a key, in its order; its reports alone lack the configured
+    // word.
     const QList<FilterParam::Cntrl> reported = bar.getCntrls();
     QJsonArray reports;
     for (const TFBaseFilterWidget *control : bar.controls()) {

@@ -42,9 +42,10 @@ bool TFGridAccess::hasRow(int row, QString *reason) const
 {
     if (row >= 0 && row < m_rows.size())
         return true;
-    *reason = m_rows.isEmpty()
-                  ? QStringLiteral("the table has no rows")
-                  : QStringLiteral("there is no row %1, the table has rows 0 to %2").arg(row).arg(m_rows.size() - 1);
+    *reason = m_rows.isEmpty() ? QStringLiteral("the table has no rows")
+                               : QStringLiteral("there is no row %1, the table has rows 0 to %2")
+                                     .arg(row)
+                                     .arg(m_rows.size() - 1);
     return false;
 }
 

@@ -12,8 +12,8 @@ class GridViewBase;
 struct GridGroup;
 } // namespace Qtitan
 
-/// A table's grid as data, and the user's hand on it. Rows and columns are numbered from 0, rows as they stand on
-/// the screen, columns as in the model.
+/// A table's grid as data, and the user's hand on it. Rows and columns are numbered from 0, rows as they
+/// stand on the screen, columns as in the model.
 class TFGridAccess
 {
 public:

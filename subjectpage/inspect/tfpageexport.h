@@ -9,8 +9,8 @@ class TFDataSource;
 class TFMultiCharts;
 class TFSubjectTableExport;
 
-/// Writes a page's main view into a workbook: a table by its own export; of a chart the labels of its X axis and, a
-/// column each, the values of its series.
+/// Writes a page's main view into a workbook: a table by its own export; of a chart the labels of its X axis
+/// and, a column each, the values of its series.
 class TFPageExport : public QObject
 {
     Q_OBJECT

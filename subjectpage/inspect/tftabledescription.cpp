@@ -57,7 +57,7 @@ QJsonArray columnsOf(const TFGridAccess &grid, TFTreeStruct &header)
 QJsonValue colourOf(const QVariant &foreground)
 {
     const QColor colour = foreground.userType() == QMetaType::QBrush ? foreground.value<QBrush>().color()
-                                                                      : foreground.value<QColor>();
+                                                                     : foreground.value<QColor>();
     return colour.isValid() ? QJsonValue(colour.name()) : QJsonValue();
 }
 

@@ -68,8 +68,8 @@ bool check(TFTreeWidgetContainer &pane, const QJsonObject &step, QString *reason
     const QString caption = step.value(QLatin1String("block")).toString();
     QAbstractItemModel *model = tree->view()->model();
     const QModelIndex root = tree->view()->rootIndex();
-    const QModelIndexList hits =
-        model->match(model->index(0, 0, root), Qt::DisplayRole, caption, 1, Qt::MatchExactly | Qt::MatchRecursive);
+    const QModelIndexList hits = model->match(model->index(0, 0, root), Qt::DisplayRole, caption, 1,
+                                              Qt::MatchExactly | Qt::MatchRecursive);
     if (hits.isEmpty()) {
         *reason = QStringLiteral("there is no block \"%1\"").arg(caption);
         return false;

@@ -4,8 +4,8 @@ class QJsonObject;
 class QString;
 class TFRightContainer;
 
-/// The user's hand on the views: all but tab() on the main one. Each step returns false, with the reason, where it
-/// can't be done. Rows and columns are numbered as a description lists them, from 0.
+/// The user's hand on the views: all but tab() on the main one. Each step returns false, with the reason,
+/// where it can't be done. Rows and columns are numbered as a description lists them, from 0.
 namespace TFViewSteps {
 
 /// Clicks the row "index".

@@ -20,6 +20,14 @@ private slots:
         testRow("file address", QStringList{"--service", "file:///etc"}, "--service");
         testRow("language", QStringList{"--language", "fr"}, "--language");
         testRow("size", QStringList{"--size", "0x900"}, "--size");
+        const QStringList render{"--render", "view://subjectpage?objvwid=260"};
+        testRow("no folder", render, "--out");
+        testRow("nothing to render", QStringList{"--xlsx"}, "--xlsx needs --render");
+        testRow("both ways", render + QStringList{"--out", "o", "--page", "view://a"}, "--page");
+        testRow("second address", render + QStringList{"http://a", "--out", "o"}, "http://a");
+        testRow("row", render + QStringList{"--out", "o", "--select-row", "-1"}, "--select-row");
+        testRow("time", render + QStringList{"--out", "o", "--timeout", "nan"}, "--timeout");
+        testRow("no script", render + QStringList{"--out", "o", "--script", "/none.json"}, "/none.json");
         testRow("stray word", QStringList{"view://subjectpage"}, "view://subjectpage");
     }
 
@@ -30,6 +38,32 @@ private slots:
         const ParsedOptions parsed = parseOptions(QStringList{"subject-terminal"} + arguments);
         QCOMPARE(parsed.outcome, ParsedOptions::WrongUsage);
         QVERIFY2(parsed.fault.contains(named), qPrintable(parsed.fault));
+    }
+
+    void wrongScriptIsLocated_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("fault");
+        testRow("syntax", "[\n  {'do': 'query'},\n  {]", "s:3:4: ");
+        testRow("no array", "{}", "s: is no array of steps");
+        testRow("no object", "[1]", "s: step 1: is no object");
+        testRow("word", "[{'do': 'query'}, {'do': 'Page'}]", "s: step 2: 'do': 'Page' is not one of");
+        testRow("missing", "[{'do': 'page'}]", "s: step 1: page: 'number' is missing");
+        testRow("type", "[{'do': 'row', 'index': 1.5}]", "'index' wants a whole number from 0");
+        testRow("stray key", "[{'do': 'query', 'row': 1}]", "'row' means nothing here");
+        testRow("both", "[{'do': 'open', 'node': ['a'], 'url': 'view://a'}]", "'node' or 'url'");
+        testRow("file name", "[{'do': 'snapshot', 'name': '../a'}]", "'name' wants");
+        testRow("taken", "[{'do': 'snapshot', 'name': 'a'}, {'do': 'snapshot', 'name': 'a'}]",
+                "step 2: snapshot: the name 'a' is taken");
+    }
+
+    void wrongScriptIsLocated()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, fault);
+        const RenderScript script = RenderScript::parse(text.replace('\'', '"').toUtf8(), "s");
+        QVERIFY2(script.fault.contains(fault.replace('\'', '"')), qPrintable(script.fault));
+        QVERIFY(script.steps.isEmpty());
     }
 
     void whatIsNotGivenStaysUnset()

@@ -15,12 +15,12 @@ class TFCORE_EXPORT ITFInspection
 public:
     virtual ~ITFInspection();
 
-    /// What is on the screen now. The key "state" is "shown", "noData", "waiting" (nothing has told the page to
-    /// load) or "loading".
+    /// What is on the screen now. The key "state" is "shown", "noData", "waiting" (nothing has told the page
+    /// to load) or "loading".
     virtual QJsonObject describe() const = 0;
 
-    /// Does \a step, whose key "do" names it, as a user would; what it starts goes on after the return. Returns
-    /// false where it can't be done, with the reason in \a reason, and leaves the page as it was.
+    /// Does \a step, whose key "do" names it, as a user would; what it starts goes on after the return.
+    /// Returns false where it can't be done, with the reason in \a reason, and leaves the page as it was.
     ///
     /// The step "export" takes the key "folder", into which the workbook goes.
     virtual bool perform(const QJsonObject &step, QString *reason) = 0;

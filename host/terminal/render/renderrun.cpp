@@ -1,9 +1,9 @@
 #include "renderrun.h"
 
 #include "mainwindow.h"
-#include "pagetab.h"
 #include "pagetabs.h"
 #include "renderfiles.h"
+#include "terminaltab.h"
 #include "tfcore/itfinspection.h"
 
 #include <QDesktopServices>
@@ -20,7 +20,7 @@ const char PageName[] = "page";
 constexpr int ExportPatience = 10; ///< a workbook may take as many times the limit of a page
 
 /// What is said of a page that does not offer a description: every key, and nothing in it.
-QJsonObject emptyDescription(const PageTab *tab)
+QJsonObject emptyDescription(const TerminalTab *tab)
 {
     return {{"url", tab ? tab->url().toString() : QString()},
             {"windowTitle", tab ? tab->title() : QString()},
@@ -94,7 +94,8 @@ QList<RenderRun::Step> RenderRun::stepsOfPage() const
 void RenderRun::wait()
 {
     const bool isPictureNext = m_steps.isEmpty() || m_steps.first().values.value("do") == "snapshot";
-    m_settler.start(m_isExporting ? m_options.timeoutMs * ExportPatience : m_options.timeoutMs, isPictureNext);
+    m_settler.start(m_isExporting ? m_options.timeoutMs * ExportPatience : m_options.timeoutMs,
+                    isPictureNext);
 }
 
 void RenderRun::giveUp()
@@ -168,7 +169,7 @@ bool RenderRun::snapshot(const QJsonObject &step, QString *reason)
 
 bool RenderRun::write(const QString &name, QString *reason)
 {
-    PageTab *tab = m_window->tabs().current();
+    TerminalTab *tab = m_window->tabs().current();
     const QPixmap picture = tab ? tab->grab() : m_window->grab();
     *reason = RenderFiles::write(folder(), name, picture, description());
     if (!reason->isEmpty())
@@ -192,20 +193,23 @@ void RenderRun::tellState(const QString &state)
 {
     const QStringList failures = m_requests.failures();
     if (state == "timeout")
-        complain(QString("the page did not come to rest within %1 s").arg(m_options.timeoutMs / 1000.0), TimedOut);
+        complain(QString("the page did not come to rest within %1 s").arg(m_options.timeoutMs / 1000.0),
+                 TimedOut);
     else if (state == "noData")
         complain("the page has no data", NotShown);
     else if (state == "waiting")
         complain("nothing has told the page to load", NotShown);
     else if (state == "failed" && failures.isEmpty())
-        complain(inspection() ? "a reply could not be used, the page goes on loading" : "there is no page", NotShown);
+        complain(inspection() ? "a reply could not be used, the page goes on loading" : "there is no page",
+                 NotShown);
     for (const QString &failure : failures)
         complain("a request failed: " + failure, NotShown);
 }
 
 void RenderRun::complain(const QString &reason, Status status)
 {
-    std::fprintf(stderr, "subject-terminal: %s: %s\n", qPrintable(m_options.urls.at(m_page)), qPrintable(reason));
+    std::fprintf(stderr, "subject-terminal: %s: %s\n", qPrintable(m_options.urls.at(m_page)),
+                 qPrintable(reason));
     m_status = qMax(m_status, int(status));
 }
 
@@ -223,7 +227,7 @@ QString RenderRun::folder() const
 
 ITFInspection *RenderRun::inspection() const
 {
-    const PageTab *tab = m_window->tabs().current();
+    const TerminalTab *tab = m_window->tabs().current();
     return tab ? tab->inspection() : nullptr;
 }
 

@@ -47,17 +47,16 @@ bool isScalar(const QJsonValue &value)
 bool isSetting(const QJsonValue &value)
 {
     const QJsonArray elements = value.toArray();
-    return isScalar(value) || (value.isArray() && std::all_of(elements.begin(), elements.end(), [](const auto &element) {
-                                   return isScalar(element);
-                               }));
+    return isScalar(value) ||
+           (value.isArray() && std::all_of(elements.begin(), elements.end(),
+                                           [](const auto &element) { return isScalar(element); }));
 }
 
 bool isCaptions(const QJsonValue &value)
 {
     const QJsonArray elements = value.toArray();
-    return !elements.isEmpty() && std::all_of(elements.begin(), elements.end(), [](const auto &element) {
-        return isText(element);
-    });
+    return !elements.isEmpty() &&
+           std::all_of(elements.begin(), elements.end(), [](const auto &element) { return isText(element); });
 }
 
 bool isPageAddress(const QJsonValue &value)
@@ -72,7 +71,8 @@ bool isFlag(const QJsonValue &value)
 
 bool isFileName(const QJsonValue &value)
 {
-    static const QRegularExpression pattern("^[^/\\\\:*?\"<>|.\\x00-\\x1f][^/\\\\:*?\"<>|\\x00-\\x1f]{0,99}$");
+    static const QRegularExpression pattern(
+        "^[^/\\\\:*?\"<>|.\\x00-\\x1f][^/\\\\:*?\"<>|\\x00-\\x1f]{0,99}$");
     return pattern.match(value.toString()).hasMatch() && value.toString() != "page";
 }
 
@@ -93,10 +93,16 @@ struct Word
 const QMap<QString, Word> &words()
 {
     static const QMap<QString, Word> table = {
-        {"open", {{}, {{"node", isCaptions, "a list of captions"}, {"url", isPageAddress, "a page address, view://..."}}, {}}},
+        {"open",
+         {{},
+          {{"node", isCaptions, "a list of captions"}, {"url", isPageAddress, "a page address, view://..."}},
+          {}}},
         {"row", {{{"index", isCountFromZero, "a whole number from 0"}}, {}, {}}},
         {"link",
-         {{{"row", isCountFromZero, "a whole number from 0"}, {"column", isCountFromZero, "a whole number from 0"}}, {}, {}}},
+         {{{"row", isCountFromZero, "a whole number from 0"},
+           {"column", isCountFromZero, "a whole number from 0"}},
+          {},
+          {}}},
         {"page", {{{"number", isCountFromOne, "a whole number from 1"}}, {}, {}}},
         {"pageSize", {{{"size", isCountFromOne, "a whole number from 1"}}, {}, {}}},
         {"filter",
@@ -128,7 +134,8 @@ QString keyFault(const QJsonObject &step, const Word &word)
 {
     const QList<Key> known = word.required + word.choice + word.optional;
     for (auto entry = step.begin(); entry != step.end(); ++entry) {
-        const auto key = std::find_if(known.begin(), known.end(), [&](const Key &k) { return entry.key() == k.name; });
+        const auto key =
+            std::find_if(known.begin(), known.end(), [&](const Key &k) { return entry.key() == k.name; });
         if (key != known.end() && !key->accepts(entry.value()))
             return QString("\"%1\" wants %2").arg(entry.key(), key->accepted);
         if (key == known.end() && entry.key() != "do")
@@ -140,7 +147,8 @@ QString keyFault(const QJsonObject &step, const Word &word)
     }
     const auto given = std::count_if(word.choice.begin(), word.choice.end(),
                                      [&step](const Key &key) { return step.contains(key.name); });
-    return word.choice.isEmpty() || given == 1 ? QString() : "exactly one is wanted of " + quoted(word.choice);
+    return word.choice.isEmpty() || given == 1 ? QString()
+                                               : "exactly one is wanted of " + quoted(word.choice);
 }
 
 QString stepFault(const QJsonValue &value)
@@ -157,8 +165,10 @@ QString stepFault(const QJsonValue &value)
 
 QString placeOf(const QByteArray &text, int offset)
 {
-    const QByteArray before = text.left(offset);
-    return QString("%1:%2").arg(before.count('\n') + 1).arg(offset - before.lastIndexOf('\n'));
+    // The parser has read on to behind what it can't take.
+    const int place = qMax(0, offset - 1);
+    const QByteArray before = text.left(place);
+    return QString("%1:%2").arg(before.count('\n') + 1).arg(place - before.lastIndexOf('\n'));
 }
 } // namespace
 

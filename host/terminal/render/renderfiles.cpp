@@ -33,7 +33,7 @@ QString RenderFiles::write(const QString &folder, const QString &name, const QPi
     if (!dir.mkpath("."))
         return "the folder can't be made: " + folder;
     const QString fault = writeWhole(dir.filePath(name + ".png"), asPng(picture));
-    return fault.isEmpty()
-               ? writeWhole(dir.filePath(name + ".json"), QJsonDocument(description).toJson(QJsonDocument::Indented))
-               : fault;
+    return fault.isEmpty() ? writeWhole(dir.filePath(name + ".json"),
+                                        QJsonDocument(description).toJson(QJsonDocument::Indented))
+                           : fault;
 }

@@ -44,7 +44,8 @@ bool isXDisplayThere()
     return connectsTo(path, true) || connectsTo(path, false);
 }
 
-[[noreturn]] void becomeServer(const QByteArray &program, const QByteArray &screen, int numberPipe, pid_t parent)
+[[noreturn]] void becomeServer(const QByteArray &program, const QByteArray &screen, int numberPipe,
+                               pid_t parent)
 {
     // Away from the terminal's keys; it goes when its parent goes.
     ::setpgid(0, 0);
@@ -69,19 +70,26 @@ VirtualDisplay::~VirtualDisplay()
     ::waitpid(m_process, nullptr, 0);
 }
 
+bool VirtualDisplay::isPlatformWithoutDisplay()
+{
+    const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
+    return platform.startsWith("offscreen") || platform.startsWith("minimal");
+}
+
 bool VirtualDisplay::isDisplayThere()
 {
     const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
-    if (!platform.isEmpty() && !platform.startsWith("xcb"))
-        return true;
-    return (platform.isEmpty() && qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) || isXDisplayThere();
+    if (isPlatformWithoutDisplay())
+        return false;
+    return (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && !platform.startsWith("xcb")) || isXDisplayThere();
 }
 
 QString VirtualDisplay::start(const QSize &size)
 {
     const QByteArray program = QStandardPaths::findExecutable("Xvfb").toLocal8Bit();
     if (program.isEmpty())
-        return "there is no display, and no Xvfb to make one: install the package xvfb (apt-get install xvfb)";
+        return "there is no display, and no Xvfb to make one: install the package xvfb (apt-get install "
+               "xvfb)";
     const QSize wanted = LeastScreen.expandedTo(size);
     const QByteArray screen = QString("%1x%2x24").arg(wanted.width()).arg(wanted.height()).toLatin1();
     int pipe[2];
@@ -96,7 +104,9 @@ QString VirtualDisplay::start(const QSize &size)
     const QString number = m_process > 0 ? readNumber(pipe[0]) : QString();
     ::close(pipe[0]);
     if (number.isEmpty())
-        return QString("no virtual display: %1 gave none within %2 s").arg(QString(program)).arg(StartTimeoutMs / 1000);
+        return QString("no virtual display: %1 gave none within %2 s")
+            .arg(QString(program))
+            .arg(StartTimeoutMs / 1000);
     qputenv("DISPLAY", ':' + number.toLatin1());
     qputenv("QT_QPA_PLATFORM", "xcb");
     return {};

@@ -27,12 +27,12 @@ QJsonArray RequestNotes::toJson() const
     QJsonArray requests;
     for (const TFRequestRecord &record : m_records) {
         const QJsonDocument body = QJsonDocument::fromJson(record.body);
-        requests.append(
-            QJsonObject{{"path", record.path},
-                        {"body", body.isObject() ? QJsonValue(body.object()) : QJsonValue(QString(record.body))},
-                        {"ok", record.ok},
-                        {"bytes", record.bytes},
-                        {"ms", record.ms}});
+        requests.append(QJsonObject{
+            {"path", record.path},
+            {"body", body.isObject() ? QJsonValue(body.object()) : QJsonValue(QString(record.body))},
+            {"ok", record.ok},
+            {"bytes", record.bytes},
+            {"ms", record.ms}});
     }
     return requests;
 }

@@ -9,6 +9,7 @@ class QPixmap;
 namespace RenderFiles {
 
 /// Writes "name.png" and "name.json" into \a folder. Returns why that did not work, or an empty text.
-QString write(const QString &folder, const QString &name, const QPixmap &picture, const QJsonObject &description);
+QString write(const QString &folder, const QString &name, const QPixmap &picture,
+              const QJsonObject &description);
 
 } // namespace RenderFiles

@@ -16,8 +16,8 @@ class MainWindow;
 
 /// Renders pages one after the other: opens each, works it by its steps, and writes what it shows.
 ///
-/// The files of a single page go into the folder itself, those of several into folders "1", "2", ... in it. What
-/// was written is told on standard output, why a page is not shown on standard error.
+/// The files of a single page go into the folder itself, those of several into folders "1", "2", ... in it.
+/// What was written is told on standard output, why a page is not shown on standard error.
 class RenderRun : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@
 namespace {
 constexpr int MaximumTimeout = 24 * 3600; // seconds; ten times as many milliseconds are an int
 const QStringList Companions{"out", "xlsx", "select-row", "timeout", "script"};
-const QStringList Rivals{"page", "screenshot"};
+const QStringList Rivals{"page", "screen", "screenshot"};
 
 QStringList urlsOf(const QCommandLineParser &parser)
 {
@@ -18,8 +18,10 @@ QStringList urlsOf(const QCommandLineParser &parser)
 QString urlFault(const QString &text)
 {
     const QUrl url(text);
-    const bool isPage = url.isValid() && url.scheme().compare("view", Qt::CaseInsensitive) == 0 && !url.host().isEmpty();
-    return isPage ? QString() : QString("--render: not a page address, as view://subjectpage?objvwid=260: %1").arg(text);
+    const bool isPage =
+        url.isValid() && url.scheme().compare("view", Qt::CaseInsensitive) == 0 && !url.host().isEmpty();
+    return isPage ? QString()
+                  : QString("--render: not a page address, as view://subjectpage?objvwid=260: %1").arg(text);
 }
 
 /// Seconds as milliseconds; none for what is no number or out of bounds.
@@ -74,7 +76,9 @@ QString faultOf(const QCommandLineParser &parser)
 void RenderOptions::addTo(QCommandLineParser &parser)
 {
     parser.addOptions({
-        {"render", "Draw and describe pages into files, without a window, and end; further addresses may follow.", "url"},
+        {"render",
+         "Draw and describe pages into files, without a window, and end; further addresses may follow.",
+         "url"},
         {"out", "Folder that --render writes into.", "folder"},
         {"xlsx", "With --render: write the workbook of the main view too."},
         {"select-row", "With --render: select this row of the main table, counted from 0.", "number"},

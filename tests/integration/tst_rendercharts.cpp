@@ -1,0 +1,96 @@
+#include "renderprogram.h"
+
+#include "subjecttest.h"
+
+#include <QDir>
+#include <QImage>
+
+#include <csignal>
+
+namespace {
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The child process of that name, 0 for none.
+qint64 childOf(qint64 parent, const QByteArray &name)
+{
+    for (const QByteArray &child : contents(QString("/proc/%1/task/%1/children").arg(parent)).split(' ')) {
+        if (!child.isEmpty() && contents("/proc/" + child + "/comm").trimmed() == name)
+            return child.toLongLong();
+    }
+    return 0;
+}
+
+/// A process that has ended and that nobody has asked after has no command line any more.
+bool runs(qint64 process)
+{
+    return !contents(QString("/proc/%1/cmdline").arg(process)).isEmpty();
+}
+} // namespace
+
+/// Charts, drawn by the web engine on the display that the program makes for itself.
+class RenderChartsTest : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY2(DemoData::isThere(), "tools/demo-data makes the demonstration database"); }
+
+    void chartIsDrawnWithoutADisplay()
+    {
+        RenderProgram program;
+        withoutDisplay(&program);
+        const int status =
+            program.run(RenderProgram::demonstration() +
+                        QStringList{"--xlsx", "--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
+
+        QVERIFY2(status == 0, qPrintable(program.errors));
+        const QString difference = program.difference("page.json", "chart");
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));
+        QVERIFY(QFile::exists(program.path("宏观经济专题_图表.xlsx")));
+        QVERIFY2(redPixels(QImage(program.path("page.png"))) > 5000, "the columns are not in the picture");
+    }
+
+    void displayGoesWithAProgramThatIsKilled()
+    {
+        RenderProgram program;
+        withoutDisplay(&program);
+        program.start(RenderProgram::demonstration() +
+                      QStringList{"--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
+        QVERIFY(program.process().waitForStarted());
+        const qint64 terminal = program.process().processId();
+        QTRY_VERIFY_WITH_TIMEOUT(childOf(terminal, "subject-service") != 0, RenderProgram::PatienceMs);
+        const qint64 display = childOf(terminal, "Xvfb");
+        QVERIFY(runs(display));
+
+        ::kill(pid_t(terminal), SIGKILL);
+
+        QVERIFY(program.process().waitForFinished());
+        QTRY_VERIFY(!runs(display));
+    }
+
+private:
+    static void withoutDisplay(RenderProgram *program)
+    {
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            program->environment.remove(name);
+    }
+
+    static int redPixels(const QImage &picture)
+    {
+        int red = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QRgb pixel = picture.pixel(x, y);
+                red += qRed(pixel) > 150 && qGreen(pixel) < 80 && qBlue(pixel) < 80;
+            }
+        }
+        return red;
+    }
+};
+
+SUBJECT_TEST_MAIN(RenderChartsTest)
+#include "tst_rendercharts.moc"
