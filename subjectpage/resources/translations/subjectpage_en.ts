@@ -380,4 +380,19 @@
         <translation>No data</translation>
     </message>
 </context>
+<context>
+    <name>TFSubjectSetting</name>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>Views</translation>
+    </message>
+    <message>
+        <source>由全局参数选择视图</source>
+        <translation>Have a global argument select the view</translation>
+    </message>
+</context>
 </TS>

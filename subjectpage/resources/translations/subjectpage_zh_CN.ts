@@ -391,4 +391,19 @@
         <translation>无数据</translation>
     </message>
 </context>
+<context>
+    <name>TFSubjectSetting</name>
+    <message>
+        <source>关闭</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>视图</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>由全局参数选择视图</source>
+        <translation>由全局参数选择视图</translation>
+    </message>
+</context>
 </TS>
