@@ -61,6 +61,8 @@ public:
     const CellPlace &hover() const { return m_hover; }
     const QString &markedText() const { return m_marked; }
 
+    /// \a font at the zoom factor.
+    QFont zoomed(QFont font) const;
     int lineHeight() const { return m_lineHeight; }
     int levelHeight() const { return m_levelHeight; }
     int firstVisibleLine() const;

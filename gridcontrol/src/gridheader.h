@@ -58,6 +58,8 @@ protected:
 
 private:
     enum Drag { NoDrag, Pressed, Resizing, Moving };
+    static constexpr int margin = 6;
+    static constexpr int arrowWidth = 12;
 
     int stripHeight() const;
     int cellAt(const QPoint &point) const;

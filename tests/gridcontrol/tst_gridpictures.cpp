@@ -104,7 +104,7 @@ void GridPicturesTest::layoutLooksAsBefore()
     QFETCH(QString, layout);
     QFETCH(bool, dark);
     const QString name = QStringLiteral("/%1.png").arg(QTest::currentDataTag());
-    const QString wanted = QStringLiteral(PROJECT_SOURCE_DIR "/tests/gridcontrol/pictures") + name;
+    const QString wanted = QStringLiteral(PICTURES) + name;
 
     const QImage found = picture(layout, dark);
     if (qEnvironmentVariableIsSet("GRID_WRITE_PICTURES"))
