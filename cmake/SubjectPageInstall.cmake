@@ -26,6 +26,9 @@ install(TARGETS tfcontract tfconfig tfcore gridcontrol subjectcore subjectui EXP
 install(DIRECTORY subjectpage/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/subjectpage FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY gridcontrol/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/subjectpage/gridcontrol
         FILES_MATCHING PATTERN "*.h")
+# For those who run the service: the loader beside its SQL, the proxy's set-up, the unit.
+install(PROGRAMS tools/load-postgresql DESTINATION ${data_dir}/tools)
+install(DIRECTORY service/sql service/deploy DESTINATION ${data_dir}/service)
 install(DIRECTORY demo/views host/terminal/config DESTINATION ${data_dir})
 
 install(EXPORT SubjectPageTargets NAMESPACE SubjectPage:: DESTINATION ${package_dir})
