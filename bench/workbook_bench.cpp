@@ -20,6 +20,8 @@
 namespace {
 constexpr int RowCount = 100000;
 constexpr int Columns = 30;
+constexpr int FirstNumber = 10;
+constexpr int FirstWhole = 25;
 constexpr int Rounds = 3;
 
 using Rows = QList<QList<QVariant>>;
@@ -39,9 +41,9 @@ Rows makeRows()
         QList<QVariant> values;
         values.reserve(Columns);
         for (int column = 0; column < Columns; ++column) {
-            if (column < 10)
+            if (column < FirstNumber)
                 values.append(QStringLiteral("text %1").arg(row * column % 5000));
-            else if (column < 25)
+            else if (column < FirstWhole)
                 values.append(row * 1.25 + column);
             else
                 values.append(row);
@@ -51,13 +53,26 @@ Rows makeRows()
     return rows;
 }
 
-void writeByLibrary(const Rows &rows, QXlsx::Document &document)
+QXlsx::Format centred(const QString &numberFormat = QString())
 {
     QXlsx::Format format;
     format.setHorizontalAlignment(QXlsx::Format::AlignHCenter);
+    format.setVerticalAlignment(QXlsx::Format::AlignVCenter);
+    if (!numberFormat.isEmpty())
+        format.setNumberFormat(numberFormat);
+    return format;
+}
+
+void writeByLibrary(const Rows &rows, QXlsx::Document &document)
+{
+    const QXlsx::Format text = centred();
+    const QXlsx::Format number = centred(QStringLiteral("#,##0.00######;-#,##0.00######"));
+    const QXlsx::Format whole = centred(QStringLiteral("#,##0;-#,##0"));
     for (int row = 0; row < rows.size(); ++row) {
-        for (int column = 0; column < Columns; ++column)
+        for (int column = 0; column < Columns; ++column) {
+            const QXlsx::Format &format = column < FirstNumber ? text : column < FirstWhole ? number : whole;
             document.write(row + 2, column + 1, rows.at(row).at(column), format);
+        }
     }
 }
 

@@ -60,8 +60,15 @@ QString sheetText(const QString &text)
     return allowed;
 }
 
+bool isPlain(QChar c)
+{
+    return isAllowed(c) && c != QLatin1Char('\r') && c != QLatin1Char('\\');
+}
+
 QString cleaned(const QString &value)
 {
+    if (std::all_of(value.cbegin(), value.cend(), isPlain))
+        return value;
     QString text = sheetText(value);
     text.remove(QLatin1String("\r\n"));
     text.remove(QLatin1String("\r\r"));
