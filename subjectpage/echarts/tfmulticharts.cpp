@@ -96,6 +96,8 @@ void TFMultiCharts::createPage()
     QWebEngineSettings *settings = QWebEngineSettings::globalSettings();
     settings->setAttribute(QWebEngineSettings::PluginsEnabled, true);
     settings->setAttribute(QWebEngineSettings::JavascriptEnabled, true);
+    // Texts whose own font is missing are written in that of the window.
+    settings->setFontFamily(QWebEngineSettings::StandardFont, QGuiApplication::font().family());
 
     m_channel = new QWebChannel(m_page);
     m_channel->registerObject(kChannelName, &m_dataSource);
