@@ -22,7 +22,9 @@
 
 namespace {
 constexpr int kOpenType = 0;
-constexpr int kPollInterval = 50; ///< milliseconds
+constexpr int kPollInterval = 50;   ///< milliseconds
+constexpr int kLongReply = 2 << 20; ///< bytes that take longer to read than a user waits without a word
+constexpr int kPaintTime = 60;      ///< milliseconds for a dialog to come up
 const char kMainFrameClass[] = "TFSubjectMainFrame";
 const QString kSuffix = QStringLiteral(".xlsx");
 
@@ -115,6 +117,22 @@ void TFSubjectTableExport::request(int type, const TFUc::TFRequestContent &conte
 
 void TFSubjectTableExport::takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser,
                                      TFTreeStruct *header)
+{
+    if (data.size() < kLongReply) {
+        readRows(type, data, parser, header);
+        return;
+    }
+    // Reading holds the window; the dialog says so first.
+    m_progress->setStep(tr("正在整理数据..."));
+    m_progress->show();
+    QTimer::singleShot(kPaintTime, this, [=, run = m_run] {
+        if (run == m_run && isBusy())
+            readRows(type, data, parser, header);
+    });
+}
+
+void TFSubjectTableExport::readRows(int type, const QByteArray &data, TFSubject::TFJsonParser *parser,
+                                    TFTreeStruct *header)
 {
     QList<QList<QVariant>> rows;
     if (!parser->parseData(data, &rows, header)) {

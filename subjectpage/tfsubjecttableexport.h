@@ -85,6 +85,7 @@ private:
                  TFTreeStruct *header);
     void fail(const QString &reason);
     void takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
+    void readRows(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
     void saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
     void save(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows,
               Ending ending);

@@ -14,6 +14,7 @@ namespace {
 constexpr int StartTimeoutMs = 10000;
 constexpr int StopTimeoutMs = 3000;
 constexpr int KeptErrorBytes = 2000;
+const char MostRows[] = "1000000"; ///< of a reply: its one user may export every table whole
 
 /// A process that the kernel ends when its parent goes.
 class BoundProcess : public QProcess
@@ -88,7 +89,7 @@ void ServiceProcess::start(const Command &command)
     });
     m_patience.start();
     m_process->start(command.program, {"--db", command.database, "--views", command.views, "--port", "0",
-                                       "--gzip-from", "0", "--exit-with-parent"});
+                                       "--gzip-from", "0", "--max-rows", MostRows, "--exit-with-parent"});
 }
 
 void ServiceProcess::stop()

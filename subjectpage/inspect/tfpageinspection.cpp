@@ -70,7 +70,6 @@ bool TFPageInspection::isAtWork() const
     if (m_export.isBusy())
         return true;
     const QList<TFMultiCharts *> charts = m_frame->findChildren<TFMultiCharts *>();
-    return std::any_of(charts.begin(), charts.end(), [](const TFMultiCharts *chart) {
-        return chart->isVisible() && !chart->isPageReady();
-    });
+    return std::any_of(charts.begin(), charts.end(),
+                       [](const TFMultiCharts *chart) { return !chart->isPageReady(); });
 }

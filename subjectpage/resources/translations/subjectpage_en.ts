@@ -346,6 +346,10 @@
         <translation>Fetching the rows...</translation>
     </message>
     <message>
+        <source>正在整理数据...</source>
+        <translation>Reading the rows...</translation>
+    </message>
+    <message>
         <source>新建工作簿</source>
         <translation>New workbook</translation>
     </message>

@@ -357,6 +357,10 @@
         <translation>正在取数据...</translation>
     </message>
     <message>
+        <source>正在整理数据...</source>
+        <translation>正在整理数据...</translation>
+    </message>
+    <message>
         <source>新建工作簿</source>
         <translation>新建工作簿</translation>
     </message>
