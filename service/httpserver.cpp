@@ -13,6 +13,7 @@ namespace service {
 namespace {
 
 const int MaxHeadBytes = 64 * 1024;
+const std::chrono::seconds HealthPatience{5}; // those who ask for it don't wait long
 const char TokenHeader[] = "kvt-token";
 const char UserHeader[] = "userId";
 const char ProductHeader[] = "prodId";
@@ -185,7 +186,7 @@ void HttpServer::Private::health(httplib::Response &response)
     const auto job = [&isGood](Database *database) {
         isGood = database && database->select({QStringLiteral("SELECT 1"), {}}).ok();
     };
-    const bool isFree = pool.run(job, std::chrono::seconds(settings.limits.seconds));
+    const bool isFree = pool.run(job, HealthPatience);
     response.status = isGood ? 200 : 503;
     setBody(response,
             isGood   ? "ok\n"

@@ -75,6 +75,7 @@ private slots:
     void healthFollowsTheDatabase();
     void aLostOrReplacedDatabaseIsOpenedAnew();
     void largeRepliesAreCompressedForWhoAsks();
+    void aConnectionServesSeveralRequestsUntilItIsSilent();
     void runningRequestsAreFinishedAtTheEnd();
 
 private:
@@ -320,6 +321,23 @@ void TestServiceGuards::largeRepliesAreCompressedForWhoAsks()
     QVERIFY(packed.body.startsWith("\x1f\x8b") && packed.body.size() < plain.body.size() / 2);
     QCOMPARE(unpacked.body, plain.body);
     QVERIFY(post(service.port(), SubjectPath, small, {{"Accept-Encoding", "gzip"}}).encoding.isEmpty());
+}
+
+void TestServiceGuards::aConnectionServesSeveralRequestsUntilItIsSilent()
+{
+    RunningService service(*m_fixture, {"--keep-alive", "1"});
+    QTcpSocket socket;
+    socket.connectToHost(QStringLiteral("127.0.0.1"), service.port());
+    QVERIFY(socket.waitForConnected());
+
+    QByteArray answers;
+    // The second request is already there when the first one is answered.
+    socket.write("GET /healthz HTTP/1.1\r\nHost: x\r\n\r\nGET /healthz HTTP/1.1\r\nHost: x\r\n\r\n");
+    while (answers.count("ok\n") < 2 && socket.waitForReadyRead(20000))
+        answers += socket.readAll();
+
+    QCOMPARE(answers.count("HTTP/1.1 200"), 2);
+    QVERIFY(socket.waitForDisconnected(20000));
 }
 
 void TestServiceGuards::runningRequestsAreFinishedAtTheEnd()
