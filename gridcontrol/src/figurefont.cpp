@@ -9,20 +9,21 @@ void FigureFont::setFont(const QFont &font)
 {
     m_advances.fill(0);
     m_run = QGlyphRun();
-    for (const char letter : "0123456789.,-+%/:()") {
-        QTextLayout layout(QString(QLatin1Char(letter)), font);
+    for (const QChar letter : QStringLiteral("0123456789.,-+%/:()")) {
+        QTextLayout layout(QString(letter), font);
         layout.beginLayout();
         const QTextLine line = layout.createLine();
         layout.endLayout();
         const QList<QGlyphRun> runs = layout.glyphRuns();
         // A sign that only a fallback font has is left to the layout.
-        if (letter == '\0' || runs.size() != 1 || runs.first().glyphIndexes().size() != 1 ||
+        if (runs.size() != 1 || runs.first().glyphIndexes().size() != 1 ||
             (m_run.rawFont().isValid() && runs.first().rawFont() != m_run.rawFont()))
             continue;
         m_run.setRawFont(runs.first().rawFont());
+        m_run.setFlags(runs.first().flags());
         m_ascent = line.ascent();
-        m_glyphs[std::size_t(letter)] = runs.first().glyphIndexes().first();
-        m_advances[std::size_t(letter)] = line.naturalTextWidth();
+        m_glyphs[letter.unicode()] = runs.first().glyphIndexes().first();
+        m_advances[letter.unicode()] = line.naturalTextWidth();
     }
 }
 
