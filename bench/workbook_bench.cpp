@@ -22,7 +22,7 @@ constexpr int RowCount = 100000;
 constexpr int Columns = 30;
 constexpr int FirstNumber = 10;
 constexpr int FirstWhole = 25;
-constexpr int Rounds = 3;
+constexpr int Rounds = 5;
 
 using Rows = QList<QList<QVariant>>;
 
