@@ -145,25 +145,25 @@ void TFSubjectTreeModel::attach(Nodes nodes)
 
 std::unique_ptr<TFTreeItem> TFSubjectTreeModel::createTreeNode(const QJsonObject &row)
 {
-    auto node = std::make_unique<TFTreeItem>();
-    node->setText(row.value(keyNodeCaption).toString());
-    node->setData(integer(row, keyNodeCode), TFTreeItem::CodeRole);
-    node->setData(integer(row, keyNodeParent), TFTreeItem::ParentCodeRole);
-    node->setData(integer(row, keyNodeType), TFTreeItem::NodeTypeRole);
-    node->setData(integer(row, keyLevel), TFTreeItem::LevelRole);
-    node->setData(integer(row, keyViewId), TFTreeItem::ViewIdRole);
-    node->setData(row.value(keyUrl).toString(), TFTreeItem::UrlRole);
-    qCDebug(lcPage) << "node infor : " << node->code() << node->text();
-    return node;
+    TFTreeItem::Fields fields;
+    fields.caption = row.value(keyNodeCaption).toString();
+    fields.url = row.value(keyUrl).toString();
+    fields.code = integer(row, keyNodeCode);
+    fields.parentCode = integer(row, keyNodeParent);
+    fields.nodeType = integer(row, keyNodeType);
+    fields.level = integer(row, keyLevel);
+    fields.viewId = integer(row, keyViewId);
+    qCDebug(lcPage) << "node infor : " << fields.code << fields.caption;
+    return std::make_unique<TFTreeItem>(fields);
 }
 
 std::unique_ptr<TFTreeItem> TFSubjectTreeModel::createBlockNode(const QJsonObject &row)
 {
-    auto node = std::make_unique<TFTreeItem>();
-    node->setText(row.value(keyBlockName).toString());
-    node->setData(integer(row, keyBlockCode), TFTreeItem::CodeRole);
-    node->setData(integer(row, keyBlockParent), TFTreeItem::ParentCodeRole);
-    return node;
+    TFTreeItem::Fields fields;
+    fields.caption = row.value(keyBlockName).toString();
+    fields.code = integer(row, keyBlockCode);
+    fields.parentCode = integer(row, keyBlockParent);
+    return std::make_unique<TFTreeItem>(fields);
 }
 
 TFTreeItem *TFSubjectTreeModel::itemFromIndex(const QModelIndex &index)

@@ -40,13 +40,17 @@ constexpr char UserHeader[] = "userId";
 constexpr char ProductHeader[] = "prodId";
 constexpr char JsonContent[] = "application/json";
 
-QSslConfiguration trustingConfiguration()
+/// Made once: each copy is a reference.
+const QSslConfiguration &trustingConfiguration()
 {
-    QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
-    ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
-    ssl.setProtocol(QSsl::AnyProtocol);
-    ssl.setSslOption(QSsl::SslOptionDisableLegacyRenegotiation, false);
-    return ssl;
+    static const QSslConfiguration configuration = [] {
+        QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
+        ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
+        ssl.setProtocol(QSsl::AnyProtocol);
+        ssl.setSslOption(QSsl::SslOptionDisableLegacyRenegotiation, false);
+        return ssl;
+    }();
+    return configuration;
 }
 
 QNetworkRequest makeRequest(const QUrl &url, const TFWXRSHttp::Headers &headers)
@@ -58,6 +62,7 @@ QNetworkRequest makeRequest(const QUrl &url, const TFWXRSHttp::Headers &headers)
     const TFAppConfig *config = TFAppConfig::instance();
     request.setRawHeader(UserHeader, config->getUserInfo().userId.toUtf8());
     request.setRawHeader(ProductHeader, config->getProuctId().toUtf8());
+    // Whatever the scheme: a redirect may lead from http to https.
     request.setSslConfiguration(trustingConfiguration());
     return request;
 }

@@ -43,6 +43,14 @@ public:
         ++m_at;
         return true;
     }
+    /// Goes on to \a end, which lies behind the value at the cursor, if what ends a value stands there.
+    bool endValue(const char *end)
+    {
+        const bool isEnd = *end == ',' || *end == '}' || *end == ']';
+        if (isEnd)
+            m_at = end;
+        return isEnd;
+    }
     /// Takes \a word, which must be next.
     bool takeWord(const char *word, int length);
     bool takeText(Text &text);

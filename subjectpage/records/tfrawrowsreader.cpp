@@ -232,9 +232,10 @@ bool TFRawRowsReader::readNumber(TFJsonCursor &cursor)
         for (++at; isDigit(*at) && at - digits <= ExactDigits; ++at)
             mantissa = mantissa * 10 + (*at - '0');
     }
-    cursor.skipValue();
-    if (!isStrict || at != cursor.at())
+    if (!isStrict || !cursor.endValue(at)) {
+        cursor.skipValue();
         return readOther(begin, cursor.at());
+    }
     if (*begin == '-')
         mantissa = -mantissa;
     appendDecimal(mantissa, at == point ? 0 : int(at - point) - 1);
