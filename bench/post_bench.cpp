@@ -2,8 +2,7 @@
 
 #include "comparison.h"
 #include "httpservice/tfwxrshttp.h"
-
-#include <httplib.h>
+#include "server.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -11,35 +10,9 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
-#include <thread>
-
 namespace {
-const char kReply[] = R"({"state":1,"msg":"","extend":null,"data":[]})";
+const QByteArray kReply = R"({"state":1,"msg":"","extend":null,"data":[]})";
 const QByteArray kBody = R"({"obj_vw_id":260,"flag":1,"page":1,"size":200})";
-
-class Server
-{
-public:
-    Server()
-    {
-        m_server.Post("/", [](const httplib::Request &, httplib::Response &response) {
-            response.set_content(kReply, "application/json");
-        });
-        m_port = m_server.bind_to_any_port("127.0.0.1");
-        m_thread = std::thread([this] { m_server.listen_after_bind(); });
-    }
-    ~Server()
-    {
-        m_server.stop();
-        m_thread.join();
-    }
-    QUrl url() const { return QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(m_port)); }
-
-private:
-    httplib::Server m_server;
-    std::thread m_thread;
-    int m_port = 0;
-};
 
 void check(const QByteArray &reply)
 {
@@ -63,7 +36,7 @@ void plainPost(const QUrl &url)
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    const Server server;
+    const Bench::Server server([](const QByteArray &) { return kReply; });
     const QUrl url = server.url();
     Bench::compare(
         {"a POST", "a fresh manager's POST", 1}, 60, [&] { plainPost(url); },

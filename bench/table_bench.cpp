@@ -9,8 +9,6 @@
 #include "tfsubjecttablewidget.h"
 
 #include <QApplication>
-#include <QStandardItemModel>
-#include <QTableView>
 
 namespace {
 constexpr int kRowsReply = 1;
@@ -61,27 +59,14 @@ void measurePainted(TFSubjectTableWidget *table, int rows, double goal, int roun
         rounds, [&] { return Bench::parseTime(bytes); }, [&] { return paintTime(table, bytes, rows); });
 }
 
-double emptyTableTime()
-{
-    QTableView view;
-    QStandardItemModel model(0, Bench::Columns);
-    const double time = Bench::milliseconds([&] {
-        view.setModel(&model);
-        view.resize(kSize);
-        view.show();
-        Bench::waitForPaint(view.viewport());
-    });
-    view.close();
-    settle();
-    return time;
-}
-
 void measurePage(TFSubjectTableWidget *table, int rows, double goal, int rounds)
 {
     const QByteArray bytes = Bench::reply(rows);
-    Bench::compareTimed({QStringLiteral("reply to the first painted page, %1 rows").arg(rows),
-                         QStringLiteral("empty QTableView made and shown"), goal},
-                        rounds, emptyTableTime, [&] { return paintTime(table, bytes, rows); });
+    Bench::compareTimed(
+        {QStringLiteral("reply to the first painted page, %1 rows").arg(rows),
+         QStringLiteral("empty QTableView made and shown"), goal},
+        rounds, [] { return Bench::emptyTableTime(kSize, Bench::Columns); },
+        [&] { return paintTime(table, bytes, rows); });
 }
 
 void measureMemory(TFSubjectTableWidget *table, int rows)

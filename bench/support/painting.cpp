@@ -1,9 +1,15 @@
 #include "painting.h"
 
+#include "comparison.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QStandardItemModel>
+#include <QTableView>
 #include <QWidget>
+
+#include <memory>
 
 namespace {
 constexpr int kPatience = 60000;
@@ -48,4 +54,17 @@ void Bench::waitForPaint(QWidget *widget)
         if (clock.elapsed() > kPatience)
             qFatal("nothing was painted");
     }
+}
+
+double Bench::emptyTableTime(const QSize &size, int columns)
+{
+    QStandardItemModel model(0, columns);
+    std::unique_ptr<QTableView> view;
+    return milliseconds([&] {
+        view = std::make_unique<QTableView>();
+        view->setModel(&model);
+        view->resize(size);
+        view->show();
+        waitForPaint(view->viewport());
+    });
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+class QSize;
 class QWidget;
 
 namespace Bench {
 
 /// Lets the event loop run until \a widget, or one inside it, has been painted.
 void waitForPaint(QWidget *widget);
+
+/// Milliseconds that an empty QTableView with that many columns takes from its making to its first picture.
+double emptyTableTime(const QSize &size, int columns);
 
 } // namespace Bench

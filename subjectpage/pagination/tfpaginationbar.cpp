@@ -41,8 +41,13 @@ TFPaginationBar::~TFPaginationBar()
 {
     QSettings settings(kSettingsOrganization, kSettingsApplication);
     settings.beginGroup(kSettingsGroup);
-    settings.setValue(kIndexKey, m_form->totalPageCombox->currentIndex());
-    settings.setValue(kCountKey, m_form->totalPageCombox->count());
+    const auto keep = [&settings](const char *key, int value) {
+        // What is written is waited for until it is on the disk.
+        if (settings.value(key, -1).toInt() != value)
+            settings.setValue(key, value);
+    };
+    keep(kIndexKey, m_form->totalPageCombox->currentIndex());
+    keep(kCountKey, m_form->totalPageCombox->count());
 }
 
 QWidget *TFPaginationBar::object()
