@@ -7,24 +7,28 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cstring>
 #include <random>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
 
 namespace {
 /// Writes replies as no service should: every kind of value, spaces, odd keys, and now and then a fault.
 class Writer
 {
 public:
-    explicit Writer(unsigned seed, bool isFaulty)
+    Writer(unsigned seed, bool isFaulty, bool hasRepeats)
         : m_random(seed)
         , m_isFaulty(isFaulty)
+        , m_hasRepeats(hasRepeats)
     {}
 
     QByteArray reply()
     {
         QByteArrayList members{member("state", "1"), member("msg", "\"\""), member("extend", value(1)),
                                member(odd() ? "d\\u0061ta" : "data", payload())};
-        if (odd())
+        if (repeats())
             members.append(member("data", odd() ? payload() : "null"));
         std::shuffle(members.begin(), members.end(), m_random);
         return space() + '{' + members.join(',') + '}' + space() + (fault() ? "x" : "");
@@ -33,6 +37,7 @@ public:
 private:
     unsigned pick(unsigned count) { return m_random() % count; }
     bool odd() { return pick(12) == 0; }
+    bool repeats() { return m_hasRepeats && odd(); }
     bool fault() { return m_isFaulty && pick(40) == 0; }
     QByteArray space() { return pick(6) ? "" : QByteArray(" \t\r\n").mid(int(pick(4)), 2); }
     QByteArray one(const QByteArrayList &choices) { return choices.at(int(pick(unsigned(choices.size())))); }
@@ -44,7 +49,7 @@ private:
     QByteArray payload()
     {
         QByteArrayList members{member("Summary", value(1)), member("Data", odd() ? value(2) : rows())};
-        if (odd())
+        if (repeats())
             members.append(member("Data", rows()));
         std::shuffle(members.begin(), members.end(), m_random);
         return odd() ? value(1) : '{' + members.join(',') + '}';
@@ -59,11 +64,12 @@ private:
     QByteArray object(int depth)
     {
         QByteArrayList members;
-        for (const char *key : {"A", "SECU_ID", "元", "b\\u0041", "bA", "", "z\\n", "\xf0\x9f\x98\x80"}) {
+        for (const char *key :
+             {"A", "SECU_ID", "元", "b\\u0041", m_hasRepeats ? "bA" : "bB", "", "z\\n", "\xf0\x9f\x98\x80"}) {
             if (pick(7))
                 members.append(member(key, value(depth)));
         }
-        if (odd())
+        if (repeats())
             members.append(member("A", value(depth)));
         return '{' + members.join(fault() ? ";" : ",") + '}';
     }
@@ -122,6 +128,32 @@ private:
 
     std::mt19937 m_random;
     bool m_isFaulty;
+    bool m_hasRepeats; ///< some keys come twice
+};
+
+/// The toolkit's parser leaks the first value of a key that comes twice.
+class RepeatsMayLeak
+{
+public:
+    explicit RepeatsMayLeak(bool mayLeak)
+        : m_mayLeak(mayLeak)
+    {
+#ifdef __SANITIZE_ADDRESS__
+        if (m_mayLeak)
+            __lsan_disable();
+#endif
+    }
+    ~RepeatsMayLeak()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        if (m_mayLeak)
+            __lsan_enable();
+#endif
+    }
+    Q_DISABLE_COPY(RepeatsMayLeak)
+
+private:
+    const bool m_mayLeak;
 };
 
 QString written(const QList<QVariantMap> &rows)
@@ -191,19 +223,23 @@ bool TestRowsReply::compare(const QByteArray &json)
 void TestRowsReply::readsWhatTheToolkitReads_data()
 {
     QTest::addColumn<bool>("isFaulty");
+    QTest::addColumn<bool>("hasRepeats");
     QTest::addColumn<int>("fewestApart");
-    QTest::newRow("good replies") << false << 1200;
-    QTest::newRow("replies with faults") << true << 200;
+    QTest::newRow("good replies") << false << false << 1000;
+    QTest::newRow("keys that come twice") << false << true << 1000;
+    QTest::newRow("replies with faults") << true << false << 150;
 }
 
 void TestRowsReply::readsWhatTheToolkitReads()
 {
     QFETCH(bool, isFaulty);
+    QFETCH(bool, hasRepeats);
     QFETCH(int, fewestApart);
+    const RepeatsMayLeak ignored(hasRepeats);
     allowWarnings("^respone is not json obj:");
     int apart = 0;
-    for (unsigned seed = 0; seed < 2500 && !QTest::currentTestFailed(); ++seed)
-        apart += compare(Writer(seed, isFaulty).reply());
+    for (unsigned seed = 0; seed < 2000 && !QTest::currentTestFailed(); ++seed)
+        apart += compare(Writer(seed, isFaulty, hasRepeats).reply());
     QVERIFY2(apart > fewestApart, qPrintable(QString::number(apart)));
 }
 
