@@ -26,6 +26,19 @@ QJsonArray column(const QJsonObject &page, int column)
     return texts;
 }
 
+/// The conditions that the last request carried, "FIELD op value;value, ...".
+QString conditions(const QJsonObject &page)
+{
+    QStringList conditions;
+    const QJsonObject sent = page.value("main").toObject().value("final").toObject();
+    for (const QJsonValue &value : sent.value("filters").toArray()) {
+        const QJsonObject filter = value.toObject();
+        conditions.append(filter.value("fieldName").toString() + ' ' + filter.value("op").toString() + ' ' +
+                          filter.value("values").toVariant().toStringList().join(';'));
+    }
+    return conditions.join(", ");
+}
+
 /// Whether a cell of a workbook ("A3 'text'", "B3 1.5 d") and a text of the screen say the same: figures to
 /// the digits that are shown.
 bool isSame(const QString &cell, const QJsonValue &shown)
@@ -115,6 +128,22 @@ private slots:
         const QJsonObject last = program.page();
         QCOMPARE(last.value("main").toObject().value("viewId").toInt(), 1641);
         QVERIFY(last.value("url").toString().contains("secuid="));
+    }
+
+    void filterStepSetsControlsOfEveryForm()
+    {
+        RenderProgram program;
+        const int status =
+            program.run(RenderProgram::demonstration() +
+                        QStringList{"--script", TEST_DATA_DIR "/good/render/filter-controls.json", "--render",
+                                    address("pnodecode=4808&nodecode=480802")});
+        QVERIFY2(status == 0, qPrintable(program.errors));
+        QCOMPARE(conditions(program.page("holdings.json")),
+                 QString("YEAR == 1996, SP500 in 是, INSTITUTIONS >= 20, INSTITUTIONS <= 60"));
+        QCOMPARE(rowsOf(program.page("bonds.json")).size(), 12);
+        QCOMPARE(conditions(program.page("states.json")), QString("PROVINCE == 佐治亚, YEAR in 1986;1984"));
+        const QJsonArray controls = program.page().value("main").toObject().value("controls").toArray();
+        QCOMPARE(controls.first().toObject().value("text").toString(), QString("2019年 年度"));
     }
 
     void stepThatCannotBeDoneEndsTheScriptWithItsNumber_data()
