@@ -29,7 +29,7 @@ PageSettler::PageSettler(QObject *parent)
     m_poll.setInterval(PollMs);
     connect(&m_poll, &QTimer::timeout, this, &PageSettler::look);
     // A request may begin and end between two looks.
-    connect(TFRequestLog::instance(), &TFRequestLog::finished, this, [this] { m_quiet.start(); });
+    connect(TFRequestLog::instance(), &TFRequestLog::finished, this, [this] { m_quietLooks = 0; });
 }
 
 void PageSettler::start(int timeoutMs, bool isForPicture)
@@ -37,15 +37,17 @@ void PageSettler::start(int timeoutMs, bool isForPicture)
     m_isForPicture = isForPicture;
     m_timeoutMs = timeoutMs;
     m_total.start();
-    m_quiet.start();
+    m_quietLooks = 0;
     m_poll.start();
 }
 
 void PageSettler::look()
 {
     if (QThreadPool::globalInstance()->activeThreadCount() > 0 || (m_isAtWork && m_isAtWork()))
-        m_quiet.start();
-    if (m_quiet.elapsed() >= (m_isForPicture && showsWebPage() ? QuietWithWebMs : QuietMs)) {
+        m_quietLooks = 0;
+    else
+        ++m_quietLooks;
+    if (m_quietLooks * PollMs >= (m_isForPicture && showsWebPage() ? QuietWithWebMs : QuietMs)) {
         m_poll.stop();
         emit settled();
     } else if (m_total.elapsed() >= m_timeoutMs) {

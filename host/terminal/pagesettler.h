@@ -29,7 +29,8 @@ private:
 
     QTimer m_poll;
     QElapsedTimer m_total;
-    QElapsedTimer m_quiet;
+    int m_quietLooks =
+        0; ///< in a row; a clock would run on while a loaded machine leaves the program waiting
     int m_timeoutMs = 0;
     bool m_isForPicture = true;
     std::function<bool()> m_isAtWork;

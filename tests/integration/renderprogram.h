@@ -14,6 +14,21 @@ class RenderProgram
 public:
     static constexpr int PatienceMs = 120000;
 
+    /// Draws without a display and finds no Xvfb to make one: enough for tables.
+    RenderProgram()
+    {
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("PATH", "/nonexistent");
+    }
+
+    /// Leaves the program to find that there is no display, and to make one.
+    void useOwnDisplay()
+    {
+        environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(name);
+    }
+
     /// Runs to the end and returns the status; -1 for a crash.
     int run(const QStringList &arguments)
     {

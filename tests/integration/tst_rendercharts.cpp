@@ -42,7 +42,7 @@ private slots:
     void chartIsDrawnWithoutADisplay()
     {
         RenderProgram program;
-        withoutDisplay(&program);
+        program.useOwnDisplay();
         const int status =
             program.run(RenderProgram::demonstration() +
                         QStringList{"--xlsx", "--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
@@ -57,7 +57,7 @@ private slots:
     void displayGoesWithAProgramThatIsKilled()
     {
         RenderProgram program;
-        withoutDisplay(&program);
+        program.useOwnDisplay();
         program.start(RenderProgram::demonstration() +
                       QStringList{"--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
         QVERIFY(program.process().waitForStarted());
@@ -73,12 +73,6 @@ private slots:
     }
 
 private:
-    static void withoutDisplay(RenderProgram *program)
-    {
-        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            program->environment.remove(name);
-    }
-
     static int redPixels(const QImage &picture)
     {
         int red = 0;
