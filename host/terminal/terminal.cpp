@@ -41,6 +41,7 @@ static void initResources()
 namespace {
 const char ServiceKey[] = "servercfg.ini:Subject";
 constexpr int ScreenshotTimeoutMs = 60000;
+constexpr int LeastServicePatienceMs = 10000;
 
 enum ExitCode { Shown = 0, NotShown = 1, WrongUsage = 2, TimedOut = 3 };
 
@@ -86,6 +87,8 @@ void Terminal::start()
 {
     if (m_options.verbose)
         QLoggingCategory::setFilterRules("subject.*.debug=true\nhost.*.debug=true");
+    if (isRendering()) // nobody looks at a window meanwhile
+        m_service->setStartTimeout(qMax(LeastServicePatienceMs, m_options.render.timeoutMs));
     connect(m_service.get(), &ServiceProcess::ready, this, &Terminal::useService);
     connect(m_service.get(), &ServiceProcess::failed, this, &Terminal::serviceFailed);
     m_languages->set(m_options.language.value_or(m_settings.language()));
