@@ -58,18 +58,12 @@ void GridCellsTest::linkTextGivesCaptionAndAnchor_data()
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("anchor");
 
-    QTest::newRow("plain text") << "plain text"
-                                << "";
-    QTest::newRow("view://a?b=1") << "view://a?b=1"
-                                  << "view://a?b=1";
-    QTest::newRow("<a href='x:y'>cap</a>") << "cap"
-                                           << "x:y";
-    QTest::newRow("<A class=\"k\" HREF=\"u\">c</A>") << "c"
-                                                     << "u";
-    QTest::newRow("<a href=''>c</a>") << "c"
-                                      << "";
-    QTest::newRow("<a href='cut") << "<a href='cut"
-                                  << "";
+    testRow("plain text", "plain text", "");
+    testRow("view://a?b=1", "view://a?b=1", "view://a?b=1");
+    testRow("<a href='x:y'>cap</a>", "cap", "x:y");
+    testRow("<A class=\"k\" HREF=\"u\">c</A>", "c", "u");
+    testRow("<a href=''>c</a>", "c", "");
+    testRow("<a href='cut", "<a href='cut", "");
 }
 
 void GridCellsTest::linkTextGivesCaptionAndAnchor()

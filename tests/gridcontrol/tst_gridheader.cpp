@@ -258,9 +258,9 @@ void GridHeaderTest::dragMovesColumnsAndBands()
 void GridHeaderTest::elidedCaptionKeepsItsUnit_data()
 {
     QTest::addColumn<QString>("unit");
-    QTest::newRow("revenue of the year(USD)") << "(USD)";
-    QTest::newRow("revenue of the year ( % )") << " ( % )";
-    QTest::newRow("(no) revenue of the year") << "";
+    testRow("revenue of the year(USD)", "(USD)");
+    testRow("revenue of the year ( % )", " ( % )");
+    testRow("(no) revenue of the year", "");
 }
 
 void GridHeaderTest::elidedCaptionKeepsItsUnit()

@@ -120,12 +120,12 @@ void GridPicturesTest::layoutLooksAsBefore()
 void GridPicturesTest::faultIsSeen_data()
 {
     QTest::addColumn<QString>("fault");
-    QTest::newRow("no edge between bands") << "strongLineColor: #EEF2F7";
-    QTest::newRow("other colour of every other row") << "alternateColor: #FFFFFF";
-    QTest::newRow("no lines") << "lineColor: #FFFFFF";
-    QTest::newRow("other links") << "linkColor: #1F2733";
-    QTest::newRow("other focus") << "focusColor: #D8E8FF";
-    QTest::newRow("no hover") << "hoverColor: #FAFBFD";
+    testRow("no edge between bands", "strongLineColor: #EEF2F7");
+    testRow("other colour of every other row", "alternateColor: #FFFFFF");
+    testRow("no lines", "lineColor: #FFFFFF");
+    testRow("other links", "linkColor: #1F2733");
+    testRow("other focus", "focusColor: #D8E8FF");
+    testRow("no hover", "hoverColor: #FAFBFD");
 }
 
 void GridPicturesTest::faultIsSeen()

@@ -92,13 +92,12 @@ void GridRowsTest::rowsSortByRole_data()
     QTest::addColumn<bool>("localeAware");
     QTest::addColumn<QString>("up");
 
-    QTest::newRow("numbers by value") << QVariantList{10, 9.5, -2, 100} << true << "-2 9.5 10 100";
-    QTest::newRow("numbers before texts") << QVariantList{"b", 3, "a"} << false << "3 a b";
-    QTest::newRow("texts by code point") << QVariantList{"b", "B", "a10", "a9"} << false << "B a10 a9 b";
-    QTest::newRow("digits by value where locale aware")
-        << QVariantList{"a10", "b", "a9"} << true << "a9 a10 b";
-    QTest::newRow("dates by day") << QVariantList{QDate(2024, 1, 2), QDate(2023, 12, 31)} << false
-                                  << "2023-12-31 2024-01-02";
+    testRow("numbers by value", QVariantList{10, 9.5, -2, 100}, true, "-2 9.5 10 100");
+    testRow("numbers before texts", QVariantList{"b", 3, "a"}, false, "3 a b");
+    testRow("texts by code point", QVariantList{"b", "B", "a10", "a9"}, false, "B a10 a9 b");
+    testRow("digits by value where locale aware", QVariantList{"a10", "b", "a9"}, true, "a9 a10 b");
+    testRow("dates by day", QVariantList{QDate(2024, 1, 2), QDate(2023, 12, 31)}, false,
+            "2023-12-31 2024-01-02");
 }
 
 void GridRowsTest::rowsSortByRole()

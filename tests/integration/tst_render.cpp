@@ -150,13 +150,13 @@ private slots:
     {
         QTest::addColumn<QByteArray>("script");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("row") << QByteArray(R"([{"do": "query"}, {"do": "row", "index": 100000}])")
-                             << "step 2 (row): there is no row 100000";
-        QTest::newRow("entry") << QByteArray(R"([{"do": "filter", "caption": "行业大类", "value": "无"}])")
-                               << "step 1 (filter): \"无\" is not one of: 全部";
-        QTest::newRow("no data")
-            << QByteArray(R"([{"do": "filter", "caption": "关键字", "value": "zzzz"}, {"do": "query"}])")
-            << "the page has no data";
+        testRow("row", QByteArray(R"([{"do": "query"}, {"do": "row", "index": 100000}])"),
+                "step 2 (row): there is no row 100000");
+        testRow("entry", QByteArray(R"([{"do": "filter", "caption": "行业大类", "value": "无"}])"),
+                "step 1 (filter): \"无\" is not one of: 全部");
+        testRow("no data",
+                QByteArray(R"([{"do": "filter", "caption": "关键字", "value": "zzzz"}, {"do": "query"}])"),
+                "the page has no data");
     }
 
     void stepThatCannotBeDoneEndsTheScriptWithItsNumber()

@@ -28,9 +28,7 @@ private slots:
         QTest::addColumn<QStringList>("expectedWarnings");
 
         const auto add = [](const char *name, const QVariantMap &changes, const QString &expected,
-                            const QStringList &warnings = {}) {
-            QTest::newRow(name) << changes << expected << warnings;
-        };
+                            const QStringList &warnings = {}) { testRow(name, changes, expected, warnings); };
         const QVariantMap other{{"NAME", "x"}};
         add("no version", {{"version", {}}, {"filterMap", other}}, "260 股票 CODE=600000");
         add("first version", {{"version", "0.0.0"}, {"filterMap", other}}, "260 股票 CODE=600000");
@@ -67,13 +65,13 @@ private slots:
         QTest::addColumn<int>("expectedRefreshes");
 
         const QString same = "260 股票 CODE=600000";
-        QTest::newRow("none") << QVariantMap() << same << 0;
-        QTest::newRow("own") << QVariantMap{{"CODE", "1"}} << same << 0;
-        QTest::newRow("others") << QVariantMap{{"CODE", "1"}, {"NAME", "2"}, {"OTHER", "3"}} << same << 1;
-        QTest::newRow("another view") << QVariantMap{{"view", "债券|300"}} << "300 债券 CODE=600000" << 2;
-        QTest::newRow("the same view") << QVariantMap{{"view", "新名|260"}} << "260 新名 CODE=600000" << 1;
-        QTest::newRow("view 0") << QVariantMap{{"view", "新名|0"}} << "260 新名 CODE=600000" << 2;
-        QTest::newRow("three parts") << QVariantMap{{"view", "a|300|b"}} << same << 1;
+        testRow("none", QVariantMap(), same, 0);
+        testRow("own", QVariantMap{{"CODE", "1"}}, same, 0);
+        testRow("others", QVariantMap{{"CODE", "1"}, {"NAME", "2"}, {"OTHER", "3"}}, same, 1);
+        testRow("another view", QVariantMap{{"view", "债券|300"}}, "300 债券 CODE=600000", 2);
+        testRow("the same view", QVariantMap{{"view", "新名|260"}}, "260 新名 CODE=600000", 1);
+        testRow("view 0", QVariantMap{{"view", "新名|0"}}, "260 新名 CODE=600000", 2);
+        testRow("three parts", QVariantMap{{"view", "a|300|b"}}, same, 1);
     }
 
     void changedArgumentsRefreshThePage()

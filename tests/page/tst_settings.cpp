@@ -107,9 +107,9 @@ private slots:
     {
         QTest::addColumn<QString>("topic");
         QTest::addColumn<int>("code");
-        QTest::newRow("name and code") << "专题-船期:2114000074" << 2114000074;
-        QTest::newRow("code alone") << "61" << 61;
-        QTest::newRow("no number") << "股票" << 0;
+        testRow("name and code", "专题-船期:2114000074", 2114000074);
+        testRow("code alone", "61", 61);
+        testRow("no number", "股票", 0);
     }
 
     void topicGivesTheRootCode()
@@ -127,10 +127,10 @@ private slots:
         QTest::addColumn<int>("status");
         QTest::addColumn<int>("rootsLeft");
         QTest::addColumn<QString>("warning");
-        QTest::newRow("failed request") << QByteArray("{}") << 500 << 1 << "";
-        QTest::newRow("no envelope") << QByteArray("{}") << 200 << 0 << "";
-        QTest::newRow("no roots") << TestService::envelope(QJsonArray{QJsonObject()}) << 200 << 0
-                                  << "has 1 rows, none of them of level 1";
+        testRow("failed request", QByteArray("{}"), 500, 1, "");
+        testRow("no envelope", QByteArray("{}"), 200, 0, "");
+        testRow("no roots", TestService::envelope(QJsonArray{QJsonObject()}), 200, 0,
+                "has 1 rows, none of them of level 1");
     }
 
     void replyThatIsNoTree()
@@ -201,12 +201,12 @@ private slots:
     void argumentsComeBackAsTheyWere_data()
     {
         QTest::addColumn<QString>("argument");
-        QTest::newRow("TextEdit") << "a;b=c";
-        QTest::newRow("DateEdit") << "2001-01-02 23:59:59";
-        QTest::newRow("DatetimeInterval") << "2022-12-31 23:59:59";
-        QTest::newRow("DecimalTextEditInterval") << "5";
-        QTest::newRow("ReportDateSimple") << "2019-06-30";
-        QTest::newRow("YearMonthSimple") << "201002";
+        testRow("TextEdit", "a;b=c");
+        testRow("DateEdit", "2001-01-02 23:59:59");
+        testRow("DatetimeInterval", "2022-12-31 23:59:59");
+        testRow("DecimalTextEditInterval", "5");
+        testRow("ReportDateSimple", "2019-06-30");
+        testRow("YearMonthSimple", "201002");
     }
 
     void argumentsComeBackAsTheyWere()
@@ -320,9 +320,9 @@ private slots:
         QTest::addColumn<QString>("focus");
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<int>("result");
-        QTest::newRow("enter in the tree") << "twNavTree" << Qt::Key_Return << int(QDialog::Accepted);
-        QTest::newRow("enter on a button") << "pbPreView" << Qt::Key_Enter << int(QDialog::Accepted);
-        QTest::newRow("escape") << "cbHideMainView" << Qt::Key_Escape << int(QDialog::Rejected);
+        testRow("enter in the tree", "twNavTree", Qt::Key_Return, int(QDialog::Accepted));
+        testRow("enter on a button", "pbPreView", Qt::Key_Enter, int(QDialog::Accepted));
+        testRow("escape", "cbHideMainView", Qt::Key_Escape, int(QDialog::Rejected));
     }
 
     void keyboardOpensAndCloses()

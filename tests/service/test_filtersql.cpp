@@ -55,7 +55,7 @@ void TestFilterSql::conditionsBecomeSqlWithBoundValues_data()
     QTest::addColumn<QString>("sql");
 
     const auto row = [](const char *name, const char *filter, const char *parameters, const char *sql) {
-        QTest::newRow(name) << QString::fromUtf8(filter) << QByteArray(parameters) << QString::fromUtf8(sql);
+        testRow(name, QString::fromUtf8(filter), QByteArray(parameters), QString::fromUtf8(sql));
     };
     row("empty", "  ", "{}", " <- ");
     row("as the client joins them", "(PRICE >= :P_0) && (PRICE <= :P_1)", "{'P_0': 1, 'P_1': 2.5}",
@@ -115,8 +115,7 @@ void TestFilterSql::faultsNameTheirPlace_data()
     QTest::addColumn<QString>("start");
 
     const auto row = [](const char *filter, const char *parameters, const char *start) {
-        QTest::newRow(filter) << QString::fromUtf8(filter) << QByteArray(parameters)
-                              << QString::fromUtf8(start);
+        testRow(filter, QString::fromUtf8(filter), QByteArray(parameters), QString::fromUtf8(start));
     };
     row("(PRICE = :P)", "{'P': 1}", "400 filter: position 8: unknown operator \"=\"; accepted are > >=");
     row("(PRICE LIKE :P)", "{'P': 1}", "400 filter: position 8: unknown operator \"LIKE\"");
@@ -157,18 +156,18 @@ void TestFilterSql::datesFindTheRowsOfTheirDay_data()
     QTest::addColumn<int>("rows");
 
     // Days 1 to 12; the third, sixth, ninth and twelfth carry 15:30.
-    QTest::newRow("from a plain day") << "DAY >= [2020-01-05]" << 8;
-    QTest::newRow("after a plain day") << "DAY > [2020-01-05]" << 7;
-    QTest::newRow("up to a plain day") << "DAY <= [2020-01-05]" << 5;
-    QTest::newRow("before a plain day") << "DAY < [2020-01-05]" << 4;
-    QTest::newRow("a plain day") << "DAY == [2020-01-05]" << 1;
-    QTest::newRow("not a plain day") << "DAY != [2020-01-05]" << 11;
-    QTest::newRow("midnight of a day with a time") << "DAY == [2020-01-06]" << 0;
-    QTest::newRow("after midnight of a day with a time") << "DAY > [2020-01-06]" << 7;
-    QTest::newRow("up to the end of a day") << "DAY <= [2020-01-06 23:59:59]" << 6;
-    QTest::newRow("a day in a list") << "DAY in [2020-01-05]" << 1;
-    QTest::newRow("a month") << "DAY == [2020-01]" << 12;
-    QTest::newRow("after the month") << "DAY > [2020-01]" << 0;
+    testRow("from a plain day", "DAY >= [2020-01-05]", 8);
+    testRow("after a plain day", "DAY > [2020-01-05]", 7);
+    testRow("up to a plain day", "DAY <= [2020-01-05]", 5);
+    testRow("before a plain day", "DAY < [2020-01-05]", 4);
+    testRow("a plain day", "DAY == [2020-01-05]", 1);
+    testRow("not a plain day", "DAY != [2020-01-05]", 11);
+    testRow("midnight of a day with a time", "DAY == [2020-01-06]", 0);
+    testRow("after midnight of a day with a time", "DAY > [2020-01-06]", 7);
+    testRow("up to the end of a day", "DAY <= [2020-01-06 23:59:59]", 6);
+    testRow("a day in a list", "DAY in [2020-01-05]", 1);
+    testRow("a month", "DAY == [2020-01]", 12);
+    testRow("after the month", "DAY > [2020-01]", 0);
 }
 
 void TestFilterSql::datesFindTheRowsOfTheirDay()

@@ -133,7 +133,7 @@ void TestRequestHandler::rowsComeAsTheRequestAsks_data()
     QTest::addColumn<QString>("summary");
 
     const auto row = [](const char *name, const char *body, const char *symbols, const char *summary) {
-        QTest::newRow(name) << QByteArray(body) << QString::fromUtf8(symbols) << QString::fromUtf8(summary);
+        testRow(name, QByteArray(body), QString::fromUtf8(symbols), QString::fromUtf8(summary));
     };
     row("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
     row("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
@@ -274,7 +274,7 @@ void TestRequestHandler::namedObjectsAreDelivered_data()
     QTest::addColumn<QString>("expected");
 
     const auto row = [](const char *name, const char *body, const char *field, const char *expected) {
-        QTest::newRow(name) << QByteArray(body) << QString::fromUtf8(field) << QString::fromUtf8(expected);
+        testRow(name, QByteArray(body), QString::fromUtf8(field), QString::fromUtf8(expected));
     };
     row("codes of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_CODE", "2 3 4 5 2");
     row("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
@@ -310,7 +310,7 @@ void TestRequestHandler::faultsAreRefused_data()
     QTest::addColumn<QString>("message");
 
     const auto row = [](QByteArray body, const char *message) {
-        QTest::newRow(message) << body.replace('\'', '"') << QString::fromUtf8(message);
+        testRow(message, body.replace('\'', '"'), QString::fromUtf8(message));
     };
     const auto viewRow = [&row](const char *members, const char *message) {
         row(QByteArray("{'obj_vw_id': 10, 'flag': 1, ") + members + '}', message);

@@ -167,20 +167,19 @@ void TestServiceGuards::aRequestBeyondALimitIsRefused_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QByteArray>("text");
 
-    QTest::newRow("body") << QStringList{"--max-body", "1024"} << AllRows + QByteArray(1000, ' ') << 413
-                          << QByteArray("body: more than 1024 bytes");
-    QTest::newRow("rows") << QStringList{"--max-rows", "11"} << AllRows << 400
-                          << QByteArray("size: more than 11 rows; ask for them page by page");
-    QTest::newRow("just as many rows")
-        << QStringList{"--max-rows", "12"} << AllRows << 200 << QByteArray("S12");
-    QTest::newRow("page") << QStringList{"--max-rows", "11"}
-                          << QByteArray(R"({"obj_vw_id":10,"flag":1,"page":1,"size":12})") << 400
-                          << QByteArray("size: expected 1 to 11, found 12");
-    QTest::newRow("cells") << QStringList{"--max-rows", "1"} << QByteArray(R"({"obj_vw_id":12,"flag":1})")
-                           << 200 << QByteArray("GridColumns");
-    QTest::newRow("depth") << QStringList{"--max-filter-depth", "2"}
-                           << QByteArray(R"({"obj_vw_id":10,"flag":1,"filter":"(((PRICE > 1))) "})") << 400
-                           << QByteArray("filter: position 3: more than 2 parentheses deep");
+    testRow("body", QStringList{"--max-body", "1024"}, AllRows + QByteArray(1000, ' '), 413,
+            QByteArray("body: more than 1024 bytes"));
+    testRow("rows", QStringList{"--max-rows", "11"}, AllRows, 400,
+            QByteArray("size: more than 11 rows; ask for them page by page"));
+    testRow("just as many rows", QStringList{"--max-rows", "12"}, AllRows, 200, QByteArray("S12"));
+    testRow("page", QStringList{"--max-rows", "11"},
+            QByteArray(R"({"obj_vw_id":10,"flag":1,"page":1,"size":12})"), 400,
+            QByteArray("size: expected 1 to 11, found 12"));
+    testRow("cells", QStringList{"--max-rows", "1"}, QByteArray(R"({"obj_vw_id":12,"flag":1})"), 200,
+            QByteArray("GridColumns"));
+    testRow("depth", QStringList{"--max-filter-depth", "2"},
+            QByteArray(R"({"obj_vw_id":10,"flag":1,"filter":"(((PRICE > 1))) "})"), 400,
+            QByteArray("filter: position 3: more than 2 parentheses deep"));
 }
 
 void TestServiceGuards::aRequestBeyondALimitIsRefused()

@@ -67,12 +67,12 @@ void TestSubjectService::refusalsCarryStatusAndEnvelope_data()
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<int>("status");
 
-    QTest::newRow("unknown path") << "/bas/index/data" << QByteArray("{}") << 404;
-    QTest::newRow("unknown view") << SubjectPath << QByteArray(R"({"obj_vw_id":99,"flag":0})") << 400;
-    QTest::newRow("no JSON") << SubjectPath << QByteArray("\xff\xfe{") << 400;
-    QTest::newRow("empty") << NamedPath << QByteArray() << 400;
-    QTest::newRow("deep") << NamedPath << QByteArray(500000, '[') << 400;
-    QTest::newRow("huge") << SubjectPath << QByteArray(3 * 1024 * 1024, ' ') << 413;
+    testRow("unknown path", "/bas/index/data", QByteArray("{}"), 404);
+    testRow("unknown view", SubjectPath, QByteArray(R"({"obj_vw_id":99,"flag":0})"), 400);
+    testRow("no JSON", SubjectPath, QByteArray("\xff\xfe{"), 400);
+    testRow("empty", NamedPath, QByteArray(), 400);
+    testRow("deep", NamedPath, QByteArray(500000, '['), 400);
+    testRow("huge", SubjectPath, QByteArray(3 * 1024 * 1024, ' '), 413);
 }
 
 void TestSubjectService::refusalsCarryStatusAndEnvelope()
@@ -165,8 +165,8 @@ void TestSubjectService::signalsEndItCleanly_data()
 {
     QTest::addColumn<int>("signal");
 
-    QTest::newRow("SIGTERM") << SIGTERM;
-    QTest::newRow("SIGINT") << SIGINT;
+    testRow("SIGTERM", SIGTERM);
+    testRow("SIGINT", SIGINT);
 }
 
 void TestSubjectService::signalsEndItCleanly()
@@ -225,24 +225,24 @@ void TestSubjectService::wrongUsageIsToldWithItsStatus_data()
     QTest::addColumn<QByteArray>("text");
 
     const QStringList good{"--db", "DB", "--views", "VIEWS"};
-    QTest::newRow("nothing") << QStringList() << 2 << QByteArray("option --db is required");
-    QTest::newRow("port") << good + QStringList{"--port", "x"} << 2 << QByteArray("--port takes a number");
-    QTest::newRow("unknown") << good + QStringList{"--nope"} << 2 << QByteArray("nope");
-    QTest::newRow("token file") << good + QStringList{"--token-file", "/nope"} << 2
-                                << QByteArray("cannot read token file");
-    QTest::newRow("address") << good + QStringList{"--host", "203.0.113.1"} << 1
-                             << QByteArray("cannot listen on 203.0.113.1");
-    QTest::newRow("no database") << QStringList{"--db", "/nope", "--views", "VIEWS"} << 1
-                                 << QByteArray("no database file /nope");
-    QTest::newRow("not a database") << QStringList{"--db", "VIEWS/12.json", "--views", "VIEWS"} << 1
-                                    << QByteArray("cannot open database");
-    QTest::newRow("check") << good + QStringList{"--check"} << 0 << QByteArray("3 views, 0 faults");
-    QTest::newRow("check in a relative folder")
-        << QStringList{"--db", ServiceFixture::isPostgres() ? "DB" : "test.sqlite", "--views", "views",
-                       "--check"}
-        << 0 << QByteArray("3 views, 0 faults");
-    QTest::newRow("check of nothing") << QStringList{"--db", "DB", "--views", "/nope", "--check"} << 1
-                                      << QByteArray("/nope: no such folder");
+    testRow("nothing", QStringList(), 2, QByteArray("option --db is required"));
+    testRow("port", good + QStringList{"--port", "x"}, 2, QByteArray("--port takes a number"));
+    testRow("unknown", good + QStringList{"--nope"}, 2, QByteArray("nope"));
+    testRow("token file", good + QStringList{"--token-file", "/nope"}, 2,
+            QByteArray("cannot read token file"));
+    testRow("address", good + QStringList{"--host", "203.0.113.1"}, 1,
+            QByteArray("cannot listen on 203.0.113.1"));
+    testRow("no database", QStringList{"--db", "/nope", "--views", "VIEWS"}, 1,
+            QByteArray("no database file /nope"));
+    testRow("not a database", QStringList{"--db", "VIEWS/12.json", "--views", "VIEWS"}, 1,
+            QByteArray("cannot open database"));
+    testRow("check", good + QStringList{"--check"}, 0, QByteArray("3 views, 0 faults"));
+    testRow("check in a relative folder",
+            QStringList{"--db", ServiceFixture::isPostgres() ? "DB" : "test.sqlite", "--views", "views",
+                        "--check"},
+            0, QByteArray("3 views, 0 faults"));
+    testRow("check of nothing", QStringList{"--db", "DB", "--views", "/nope", "--check"}, 1,
+            QByteArray("/nope: no such folder"));
 }
 
 void TestSubjectService::wrongUsageIsToldWithItsStatus()

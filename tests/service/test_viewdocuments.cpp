@@ -189,7 +189,7 @@ void TestViewDocuments::faultsNameFileAndPlace_data()
     QTest::addColumn<QString>("fault");
 
     const auto row = [](const char *path, const QJsonValue &value, const char *fault) {
-        QTest::newRow(fault) << QString::fromUtf8(path) << value << QString::fromUtf8(fault);
+        testRow(fault, QString::fromUtf8(path), value, QString::fromUtf8(fault));
     };
     row("colour", 1, "a/10.json / colour: unknown key; known are id, name");
     row("id", QStringLiteral("10"), "a/10.json / id: expected a whole number, found \"10\"");
