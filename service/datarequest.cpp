@@ -1,5 +1,6 @@
 #include "datarequest.h"
 
+#include "requestshape.h"
 #include "wiredate.h"
 
 #include <QJsonArray>
@@ -12,7 +13,6 @@ namespace service {
 
 namespace {
 
-const int MaxNesting = 16;
 const int MaxBlocks = 10000;
 
 const QLatin1String ViewKey("obj_vw_id");
@@ -27,28 +27,6 @@ const QLatin1String BlockKey("filterBlock");
 Refusal refuse(const QString &place, const QString &text)
 {
     return {400, place + QStringLiteral(": ") + text};
-}
-
-/// Whether brackets stand deeper than is allowed. Runs before the parser, so that no document is built in
-/// vain.
-bool isTooDeep(const QByteArray &text)
-{
-    int depth = 0;
-    bool inText = false;
-    for (int i = 0; i < text.size(); ++i) {
-        const char c = text.at(i);
-        if (inText && c == '\\')
-            ++i;
-        else if (c == '"')
-            inText = !inText;
-        else if (!inText && (c == '{' || c == '['))
-            ++depth;
-        else if (!inText && (c == '}' || c == ']'))
-            --depth;
-        if (depth > MaxNesting)
-            return true;
-    }
-    return false;
 }
 
 Result<int> readPositive(const QJsonObject &body, QLatin1String key, int fallback, int limit)
@@ -164,8 +142,9 @@ Result<QVariant> readParameterList(const QJsonValue &value, const QVariantList &
 
 Result<QJsonObject> readBody(const QByteArray &body)
 {
-    if (isTooDeep(body))
-        return refuse(QStringLiteral("body"), QStringLiteral("nested more than %1 deep").arg(MaxNesting));
+    const QString fault = RequestShape(body).fault();
+    if (!fault.isEmpty())
+        return refuse(QStringLiteral("body"), fault);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(body, &error);
     if (error.error != QJsonParseError::NoError)

@@ -319,6 +319,7 @@ void TestRequestHandler::faultsAreRefused_data()
     row("[1]", "body: expected an object");
     row("{'flag':1,", "body: byte 1");
     row(QByteArray(100, '['), "body: nested more than 16 deep");
+    row("{'a': {'b': [1], 'c': 1, '\\u0062': []}}", "body: byte 26: the key \"b\" stands twice");
     row("{}", "obj_vw_id: expected a whole number");
     row("{'obj_vw_id': 1e300, 'flag': 1}", "obj_vw_id: expected");
     row("{'obj_vw_id': 99, 'flag': 1}", "obj_vw_id: no view 99");
