@@ -1,0 +1,280 @@
+#include "parserdocument.h"
+#include "subjecttest.h"
+
+#include "expression/expressionparse.h"
+#include "jsonparser/tfcaption.h"
+#include "jsonparser/tfdatajsontable.h"
+#include "jsonparser/tfjsonparser.h"
+#include "jsonparser/tfobjectviewconfigtable.h"
+#include "jsonparser/tfunboundexpression.h"
+#include "jsonparser/tfviewconfigtable.h"
+#include "mulittable/tfheaderdatastruct.h"
+#include "records/tfrowstore.h"
+
+#include <QRegExp>
+#include <QRegularExpression>
+
+#include <random>
+
+using TFSubject::TFJsonParser;
+
+namespace {
+/// Every field of every cell.
+QString inFull(const RowData &row)
+{
+    QStringList cells;
+    for (const auto &c : row) {
+        cells.append(QStringList({c.fieldName, c.valueType, QString::number(c.textAlignment), c.url,
+                                  c.formatString, QString::number(c.prevUnitFactor),
+                                  QString::number(c.showUnitFactor), QString::number(c.secuId, 'g', 17),
+                                  QString::number(c.baseShowUnitFactor), QString::number(c.unitCategory),
+                                  c.columnType, QString::number(c.captionShowType), written(c.value)})
+                         .join(','));
+    }
+    return cells.join(" | ");
+}
+
+/// The rows as told, cell by cell from the maps.
+QList<RowData> plainRows(const TFJsonParser &parser, const QList<TFTreeStruct *> &leaves,
+                         ExpressionParse &expressions)
+{
+    QList<RowData> rows;
+    const auto maps = parser.dataMaps();
+    for (const QVariantMap &map : maps) {
+        RowData row;
+        QStringList fields;
+        for (const TFTreeStruct *leaf : leaves) {
+            const HeaderFieldInfo &info = leaf->info();
+            TFTableModelData::tagCellValue cell{info.fieldName,           info.valueType,
+                                                info.textAlignment,       info.url,
+                                                info.formatString,        info.prevUnitFactor,
+                                                info.showUnitFactor,      map.value("SECU_ID").toDouble(),
+                                                info.showUnitFactor,      info.unitCategory,
+                                                info.columnType,          info.captionShowType,
+                                                map.value(info.fieldName)};
+            fields.append(info.fieldName);
+            if (info.valueType.toLower() == "decimal" && !info.unboundExpression.isEmpty())
+                expressions.parse(info.unboundExpression, cell.value, map);
+            row.append(cell);
+        }
+        for (auto it = map.begin(); it != map.end(); ++it) {
+            if (fields.contains(it.key()))
+                continue;
+            TFTableModelData::tagCellValue cell;
+            cell.fieldName = it.key();
+            cell.value = it.value();
+            cell.valueType = parser.objectViewConfigTable()->headerFieldInfo(it.key()).valueType;
+            row.append(cell);
+        }
+        rows.append(row);
+    }
+    return rows;
+}
+
+QJsonValue randomValue(std::mt19937 &random)
+{
+    switch (random() % 9) {
+    case 0:
+        return QJsonValue();
+    case 1:
+        return bool(random() % 2);
+    case 2:
+        return double(random() % 100000) / 64;
+    case 3:
+        return qint64(random()) * (random() % 2 ? 1 : -1);
+    case 4:
+        return QString::number(random() % 1000);
+    case 5:
+        return QStringLiteral("股票 %1").arg(random() % 10);
+    case 6:
+        return QJsonArray{1, QString("x"), QJsonObject{{"k", 2.5}}};
+    case 7:
+        return QJsonObject{{"k", QJsonArray{QJsonValue()}}};
+    default:
+        return 1e300;
+    }
+}
+} // namespace
+
+class TestParsedRows : public SubjectTest
+{
+    Q_OBJECT
+
+private slots:
+    void rowsEqualThePlainOnes();
+    void jsonNumbersKeepTheirVariantTypes();
+    void rowsOfMapsEqualRowsOfJson();
+    void aggregateCellsFollowTheirOddRules_data();
+    void aggregateCellsFollowTheirOddRules();
+    void computedColumnsReadDeliveredValues();
+    void handWrittenMatchersEqualTheirPatterns();
+    void packedRowsComeBackUnchanged();
+};
+
+void TestParsedRows::rowsEqualThePlainOnes()
+{
+    // Keys that JSON and a map sort differently, keys of columns and others, rows of changing keys.
+    const QStringList names = {
+        "SECU_ID", "A",   "b", "元", QString::fromUtf8("\xf0\x9f\x98\x80"), QString(QChar(0xff21)),
+        "",        "x y", "Z"};
+    std::mt19937 random(11);
+    for (int round = 0; round < 200; ++round) {
+        QJsonArray columns;
+        for (const QString &name : names) {
+            if (random() % 2)
+                columns.append(column(name, {{"Url", "u" + name},
+                                             {"ShowUnitFactor", int(random() % 3)},
+                                             {"TextAlignment", int(random() % 4)},
+                                             {"UnboundExpression", random() % 5 ? "" : "[A]*2"},
+                                             {"ValueType", random() % 3 ? "Decimal" : "String"}}));
+        }
+        QJsonArray rows;
+        for (int i = 0; i < 20; ++i) {
+            QJsonObject row;
+            for (const QString &name : names) {
+                if (random() % 8)
+                    row.insert(name, randomValue(random));
+            }
+            rows.append(random() % 10 ? QJsonValue(row) : QJsonValue(5));
+        }
+        TFTreeStruct header("");
+        TFJsonParser parser;
+        allowWarnings("cant find field name: \"\"");
+        parser.parseConfig(document(columns, rows), &header);
+
+        ExpressionParse expressions;
+        const QList<RowData> plain = plainRows(parser, header.leaves(), expressions);
+        const QList<RowData> built = parser.rows();
+        QCOMPARE(built.size(), plain.size());
+        for (int i = 0; i < plain.size(); ++i)
+            QCOMPARE(inFull(built.at(i)), inFull(plain.at(i)));
+    }
+}
+
+void TestParsedRows::jsonNumbersKeepTheirVariantTypes()
+{
+    const QByteArray page =
+        R"({"Data":[{"A":1,"B":1.0,"C":1.5,"D":9007199254740993,"E":1e3,"F":99999999999999999999,"G":-0,"H":null,"I":"1","J":true}]})";
+    TFJsonParser parser;
+    QVERIFY(parser.parseData(QJsonValue(QJsonDocument::fromJson(page).object())));
+    const QVariantMap map = parser.dataMaps().at(0);
+    QStringList cells;
+    for (auto it = map.begin(); it != map.end(); ++it)
+        cells.append(it.key() + '=' + written(it.value()));
+    QCOMPARE(written(parser.rows()), QStringList(cells.join(" | ")));
+}
+
+void TestParsedRows::rowsOfMapsEqualRowsOfJson()
+{
+    TFDataJsonTable table;
+    table.initWith(QJsonArray{QJsonObject{{"A", 1}}, 7, QJsonObject{}});
+    QCOMPARE(table.rows(), (QList<QVariantMap>{{{"A", 1}}, {}, {}}));
+    table.setRows({{{"B", 2.5}}});
+    QCOMPARE(table.rowCount(), 1);
+    QCOMPARE(table.rows(), (QList<QVariantMap>{{{"B", 2.5}}}));
+    table.initWith(QJsonValue("x"));
+    QCOMPARE(table.rowCount(), 0);
+}
+
+void TestParsedRows::aggregateCellsFollowTheirOddRules_data()
+{
+    QTest::addColumn<QString>("expression");
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<QString>("value");
+    const QString years = R"({"2019__ROE":2,"2020__ROE":"3","NAME":"text"})";
+    testRow("sum counts text as 0", "SUM([ROE])", years, "double:5");
+    testRow("sum leaves the field itself out", "sum[ROE]", R"({"roe":100,"2019__ROE":2})", "double:2");
+    testRow("suffix with a mark counts though it equals", "SUM([a__ROE])", R"({"x__a__ROE":1,"A__ROE":2})",
+            "double:1");
+    testRow("sum of nothing", "SUM([ROE])", "{}", "double:0");
+    testRow("average is matched and has no computation", "AVERAGE([ROE])", years, "-");
+    testRow("avgerage is a formula", "AVGERAGE([ROE])", years, "-");
+    testRow("product to the power of the count", "GEOMEAN([ROE])", R"({"a":2,"b":3})", "double:36");
+    testRow("product of nothing", "GEOMEAN([ROE])", "{}", "-");
+    testRow("largest has no implicit 0", "MAX([ROE])", R"({"a":-2,"b":-3})", "double:-2");
+    testRow("largest of nothing", "MAX([ROE])", R"({"ROE":1})", "-");
+    testRow("no suffix", "SUM([])", years, "-");
+    testRow("text around it is ignored", "1+Max([ROE])*5", R"({"a":4})", "double:4");
+    testRow("a formula", "[2019__ROE]*[2020__ROE]", years, "int:6");
+}
+
+void TestParsedRows::aggregateCellsFollowTheirOddRules()
+{
+    QFETCH(QString, expression);
+    QFETCH(QString, row);
+    const QJsonArray rows{QJsonDocument::fromJson(row.toUtf8()).object()};
+    TFTreeStruct header("");
+    TFJsonParser parser;
+    parser.parseConfig(document({column("C", {{"UnboundExpression", expression}}),
+                                 column("D", {{"UnboundExpression", expression}, {"ValueType", "Double"}})},
+                                rows),
+                       &header);
+    QTEST(written(parser.rows().at(0).at(0).value), "value");
+    QVERIFY(!parser.rows().at(0).at(1).value.isValid());
+    QCOMPARE(written(TFAggregate::compute("Avgerage", {1, 2})), QString("double:1.5"));
+}
+
+void TestParsedRows::computedColumnsReadDeliveredValues()
+{
+    TFTreeStruct header("");
+    TFJsonParser parser;
+    parser.parseConfig(document({column("A", {{"UnboundExpression", "[A]+1"}}),
+                                 column("B", {{"UnboundExpression", "[A]+10"}}), column("A")},
+                                {QJsonObject{{"A", 1}}, QJsonObject{{"A", 2}, {"B", 7}}}),
+                       &header);
+    QCOMPARE(written(parser.rows()),
+             QStringList({"A=int:2 | B=int:11 | A=int:2", "A=int:3 | B=int:12 | A=int:3"}));
+}
+
+void TestParsedRows::handWrittenMatchersEqualTheirPatterns()
+{
+    const QStringList pieces = {"{", "}", "a", "\n", "SUM", "max", "[", "]", "(", ")", "AVERAGE", "x"};
+    std::mt19937 random(3);
+    QRegExp aggregate("(.*)(SUM|AVERAGE|GEOMEAN|MAX)(\\(?)\\[(.*)\\](\\)?)(.*)", Qt::CaseInsensitive);
+    QRegExp braces("\\{.*\\}");
+    QRegExp capture(".*\\{(.*)\\}.*");
+    for (int round = 0; round < 20000; ++round) {
+        QString text;
+        for (unsigned i = 0; i < random() % 12; ++i)
+            text += pieces.at(int(random() % unsigned(pieces.size())));
+
+        QCOMPARE(TFCaption::hasExpression(text), braces.indexIn(text) >= 0);
+        if (TFCaption::hasExpression(text)) {
+            capture.indexIn(text);
+            QVERIFY2(TFCaption::expression(text) == capture.cap(1), qPrintable(text));
+            QCOMPARE(TFCaption::replaced(text, "-"),
+                     QString(text).replace(QRegularExpression("\\{.*\\}"), "-"));
+        }
+        const TFUnboundExpression expression(text);
+        QVERIFY2(expression.isAggregate() == (aggregate.indexIn(text) >= 0), qPrintable(text));
+        if (expression.isAggregate()) {
+            QVERIFY2(expression.function() == aggregate.cap(2), qPrintable(text));
+            QVERIFY2(expression.suffix() == aggregate.cap(4), qPrintable(text));
+        }
+    }
+}
+
+void TestParsedRows::packedRowsComeBackUnchanged()
+{
+    const auto cell = [](const QString &name, double secuId, const QVariant &value) {
+        TFTableModelData::tagCellValue cell;
+        cell.fieldName = name;
+        cell.secuId = secuId;
+        cell.value = value;
+        return cell;
+    };
+    const QList<RowData> rows = {{cell("a", 5, 1), cell("b", 5, "x"), cell("c", 0, 2)},
+                                 {cell("a", 6, 3), cell("b", 6, QVariant()), cell("c", 0, 4)},
+                                 {cell("a", 6, 3), cell("b", 7, 1), cell("c", 6, 4)},
+                                 {},
+                                 {cell("z", 0, 1)}};
+    const TFRowStore store = TFRowStore::fromRows(rows);
+
+    QCOMPARE(store.rowCount(), rows.size());
+    for (int i = 0; i < rows.size(); ++i)
+        QCOMPARE(inFull(store.row(i)), inFull(rows.at(i)));
+    QCOMPARE(store.cellCount(-1) + store.cellCount(5), 0);
+}
+
+SUBJECT_TEST_MAIN(TestParsedRows)
+#include "tst_parsedrows.moc"
