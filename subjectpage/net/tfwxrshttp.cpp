@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QNetworkSession>
@@ -32,6 +33,23 @@ void registerNetworkTypes()
         QNetworkAccessManager registersTheRest;
     });
 }
+
+/// The proxies of the application. Where there is none for an address, it says "as the socket finds it" in
+/// place of "none", which leads to the same address: for "none" the toolkit opens the socket without a buffer
+/// and reads the header of the reply a byte a system call.
+class ApplicationProxies : public QNetworkProxyFactory
+{
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery &query) override
+    {
+        const QList<QNetworkProxy> none{QNetworkProxy(QNetworkProxy::NoProxy)};
+        const QList<QNetworkProxy> proxies = proxyForQuery(query);
+        const QNetworkProxyQuery bySocket(query.peerHostName(), query.peerPort());
+        if (proxies == none && proxyForQuery(bySocket) == none)
+            return {QNetworkProxy(QNetworkProxy::DefaultProxy)};
+        return proxies;
+    }
+};
 
 constexpr char TokenHeader[] = "kvt-token";
 constexpr char FormatHeader[] = "kvt-format";
@@ -103,6 +121,7 @@ TFWXRSHttp::HttpResult TFWXRSHttp::post(const QUrl &url, const QByteArray &body,
     // A manager of its own for each call: a kept connection waits for the server's delayed acknowledgement.
     QNetworkAccessManager manager;
     manager.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
+    manager.setProxyFactory(new ApplicationProxies);
     QNetworkReply *reply = manager.post(makeRequest(url, headers), body);
     reply->ignoreSslErrors();
 

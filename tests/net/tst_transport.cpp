@@ -7,6 +7,7 @@
 #include "tfcore/tfrequestlog.h"
 #include "tfcore/tfserviceconfig.h"
 
+#include <QNetworkProxyFactory>
 #include <QProcess>
 #include <QSslKey>
 #include <QTemporaryDir>
@@ -32,6 +33,17 @@ QSslConfiguration selfSigned()
     tls.setPrivateKey(QSslKey(&keyFile, QSsl::Rsa));
     return tls;
 }
+
+/// Nothing for addresses, and a proxy that nobody is for plain sockets.
+class ProxiesOfSockets : public QNetworkProxyFactory
+{
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery &query) override
+    {
+        if (query.queryType() == QNetworkProxyQuery::UrlRequest)
+            return {QNetworkProxy(QNetworkProxy::NoProxy)};
+        return {QNetworkProxy(QNetworkProxy::Socks5Proxy, "127.0.0.1", 1)};
+    }
+};
 
 /// The result of a request that a view started.
 struct Delivery
@@ -67,6 +79,7 @@ private slots:
     void failuresGiveTheErrorText();
     void redirectIsFollowedUnlessItLeavesTls();
     void untrustedCertificateIsAccepted();
+    void proxiesOfTheApplicationAreKept();
     void resultArrivesQueuedOnTheReceiversThread();
     void requestWithoutReceiverDelivers();
     void destroyedReceiverGetsNothing();
@@ -174,6 +187,23 @@ void TestTransport::untrustedCertificateIsAccepted()
     const auto result = TFWXRSHttp::post(secure.url(), "{}", {});
     QVERIFY2(result.ok, result.data);
     QCOMPARE(result.data, QByteArray("trusted"));
+}
+
+void TestTransport::proxiesOfTheApplicationAreKept()
+{
+    HttpServer server;
+    server.setReplies({httpReply("200 OK", "{}")});
+    const auto restore = qScopeGuard([] { QNetworkProxyFactory::setApplicationProxyFactory(nullptr); });
+
+    QNetworkProxy::setApplicationProxy(
+        {QNetworkProxy::HttpProxy, server.url().host(), quint16(server.url().port())});
+    QVERIFY(TFWXRSHttp::post(QUrl("http://no.such.host.invalid/there"), "{}", {}).ok);
+    QVERIFY2(server.requests().value(0).startsWith("POST http://no.such.host.invalid/there"),
+             server.requests().value(0));
+
+    QNetworkProxyFactory::setApplicationProxyFactory(new ProxiesOfSockets);
+    QVERIFY(TFWXRSHttp::post(server.url("/here"), "{}", {}).ok);
+    QVERIFY2(server.requests().value(1).startsWith("POST /here"), server.requests().value(1));
 }
 
 void TestTransport::resultArrivesQueuedOnTheReceiversThread()
