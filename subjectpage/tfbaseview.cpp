@@ -17,15 +17,6 @@ QList<QPair<QString, QVariant>> TFBaseView::requestParameters() const
     return pairs;
 }
 
-bool TFBaseView::takeReply(const QByteArray &reply, int flag)
-{
-    NtResponse response;
-    if (!TFJSP::parseResponse(reply, response))
-        return false;
-    handleReply(response.data, QString(), flag);
-    return true;
-}
-
 void TFBaseView::reset(qint64)
 {}
 
@@ -61,4 +52,13 @@ void TFBaseView::setChildFilters(const QList<FilterParam::Cntrl> &controls, cons
     m_parameters = filters.parameters();
     m_filters = filters.filters();
     m_parameters.append(order());
+}
+
+bool TFBaseView::takeReply(const QByteArray &reply, int flag)
+{
+    NtResponse response;
+    if (!TFJSP::parseResponse(reply, response))
+        return false;
+    handleReply(response.data, QString(), flag);
+    return true;
 }

@@ -46,9 +46,6 @@ public:
     /// Reads the payload of a reply to a request with \a flag (0 configuration, 1 rows, 2 both). \a spare
     /// is empty.
     virtual bool handleReply(const QJsonValue &json, const QString &spare, int flag) = 0;
-    /// Reads a whole reply and its payload as handleReply() does. Returns false, with nothing done, for a bad
-    /// envelope.
-    virtual bool takeReply(const QByteArray &reply, int flag);
     /// Whether the filter bar sends the field \a name as a top-level key.
     virtual bool isFilterLive(const QString &name) = 0;
     virtual void setFilterArguments(const QMap<QString, QVariant> &arguments) = 0;
@@ -75,6 +72,9 @@ public:
     virtual void setChildFilters(const QList<FilterParam::Cntrl> &controls, const RowData &row,
                                  const QString &linkText);
     virtual bool isCross() const = 0;
+    /// Reads a whole reply and its payload as handleReply() does. Returns false, with nothing done, for a bad
+    /// envelope.
+    virtual bool takeReply(const QByteArray &reply, int flag);
 
 private:
     qint64 m_viewId = -1;

@@ -64,7 +64,7 @@ bool TFSubjectPage::parseUrl(const QUrl &url)
     const bool isPage = url.scheme().compare(pageScheme, Qt::CaseInsensitive) == 0 &&
                         url.host(QUrl::FullyDecoded).contains(pageWord, Qt::CaseInsensitive);
     if (!isPage) {
-        qCWarning(lcPage) << "url is unrecognizable" << url;
+        qCWarning(lcPage) << "url is unrecognizable";
         return false;
     }
     const QUrlQuery query(url.query().toLower());
