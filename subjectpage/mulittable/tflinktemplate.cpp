@@ -34,8 +34,9 @@ QString TFLinkTemplate::fill(const QString &link, const RowData &row)
     qCDebug(lcTable) << "map keys:" << values.keys();
 
     QUrl url(link);
-    if (url.hasQuery())
+    const bool hasQuery = url.hasQuery();
+    if (hasQuery)
         url.setQuery(filledQuery(url.query(), values));
     qCDebug(lcTable) << "linkActivated:" << url;
-    return url.toString();
+    return hasQuery ? url.toString() : link;
 }

@@ -208,7 +208,8 @@ Qt::ItemFlags TFSubjectTableModel::flags(const QModelIndex &) const
 
 void TFSubjectTableModel::setHeader(TFTreeStruct *tree)
 {
-    // Views read the columns when they are told of a change, so they must not see the state in between.
+    // Told for the captions that go and again for those that come. Views read the columns when they are told, so
+    // they must not see the state in between.
     const int columnsBefore = m_captions.size();
     m_header = tree;
     m_captions = tree ? tree->leafCaptions() : QStringList();
@@ -223,7 +224,7 @@ void TFSubjectTableModel::setHeader(TFTreeStruct *tree)
     }
     makeStyles(fieldNames);
     const int columns = m_captions.isEmpty() ? columnsBefore : m_captions.size();
-    if (columns > 0)
+    for (int i = 0; columns > 0 && i < (tree ? 2 : 1); ++i)
         emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
 }
 

@@ -46,6 +46,7 @@ TFSujectTableView::TFSujectTableView(QWidget *parent)
     , m_corner(new QToolButton(this))
     , m_grid(new Qtitan::Grid(this))
 {
+    setObjectName(QStringLiteral("tfTableView"));
     m_corner->setObjectName(QStringLiteral("CornerWidget"));
     m_corner->hide();
     m_grid->setObjectName(QStringLiteral("tfGridView"));
@@ -74,7 +75,7 @@ void TFSujectTableView::setModel(TFSubjectTableModel *model, bool rebind)
     m_depth = m_header ? m_header->depth() : 1;
     m_grid->setViewType(m_depth < kBandedDepth ? Qtitan::PlainTableView : Qtitan::BandedTableView);
     m_view = qobject_cast<Qtitan::GridTableView *>(m_grid->rootView());
-    m_view->setObjectName(QStringLiteral("tfTableView"));
+    m_view->setObjectName(objectName());
     if (m_depth >= kBandedDepth)
         makeBands();
     m_view->setModel(model, QModelIndex());

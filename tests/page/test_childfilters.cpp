@@ -127,7 +127,7 @@ private slots:
         QTest::addColumn<QString>("filled");
         testRow("twice and one more", "view://p?a=${CODE}&b=${CODE}${A.B}", "view://p?a=600000&b=6000007");
         testRow("no such field", "view://p?a=${GONE}&b=1", "view://p?a=&b=1");
-        testRow("without a query", "http://h/${CODE}", "http://h/$%7BCODE%7D");
+        testRow("without a query", "http://h/${CODE}", "http://h/${CODE}");
         testRow("signs of a query in a value", "view://p?n=${NAME}&b=1", "view://p?n=A%26B 5%25&b=1");
     }
 
