@@ -12,7 +12,7 @@
 
 #include <memory>
 
-/// The page bar: figures of a reply, what the buttons signal, and the choice that it keeps.
+/// The page bar: figures of a reply, what its controls signal, and the choice that it keeps.
 class PaginationBarTest : public SubjectTest
 {
     Q_OBJECT
@@ -20,24 +20,18 @@ class PaginationBarTest : public SubjectTest
 private slots:
     void init();
     void cleanup();
-    void pagesFollowRowsAndSize_data();
-    void pagesFollowRowsAndSize();
-    void buttonsSignalTheirPage();
-    void buttonsAreEnabledWhereTheyLead();
-    void pageZeroMeansAnEmptyResult();
+    void figuresAndControlsGiveThePage_data();
+    void figuresAndControlsGiveThePage();
     void sizeOutsideTheListBecomesTheOnlyChoice();
-    void chosenSizeAsksForThePageAgain();
-    void typedPageIsSignalledOnce();
-    void choiceIsKeptWhereTheNumberOfChoicesStands_data();
     void choiceIsKeptWhereTheNumberOfChoicesStands();
 
 private:
     void showReply(int rows, int page, int size);
-    QString signalled(const QSignalSpy &spy) const;
+    void act(const QString &control);
+    QString state() const;
     QComboBox *sizes() const { return m_bar->findChild<QComboBox *>("totalPageCombox"); }
     QLineEdit *field() const { return m_bar->findChild<QLineEdit *>("currentPage"); }
-    QPushButton *button(const char *name) const { return m_bar->findChild<QPushButton *>(name); }
-    QString pages() const { return m_bar->findChild<QLabel *>("totalPage")->text(); }
+    QPushButton *button(const QString &name) const { return m_bar->findChild<QPushButton *>(name); }
 
     std::unique_ptr<TestHost> m_host;
     std::unique_ptr<TFPaginationBar> m_bar;
@@ -66,143 +60,102 @@ void PaginationBarTest::showReply(int rows, int page, int size)
     m_bar->setPerCnt(size);
 }
 
-QString PaginationBarTest::signalled(const QSignalSpy &spy) const
+void PaginationBarTest::act(const QString &control)
 {
-    QStringList all;
-    for (const QList<QVariant> &one : spy)
-        all.append(QString("%1/%2").arg(one.at(0).toInt()).arg(one.at(1).toInt()));
-    return all.join(' ');
+    const QString last = control.section(' ', -1);
+    if (QPushButton *pressed = button(control)) {
+        pressed->click();
+    } else if (control.startsWith("page")) {
+        m_bar->setCurrentPage(last.toInt());
+    } else if (control.startsWith("size")) {
+        sizes()->setCurrentText(last);
+        emit sizes()->activated(sizes()->currentIndex());
+    } else if (control.startsWith("type")) {
+        field()->clear();
+        QTest::keyClicks(field(), last + '\r');
+    }
 }
 
-void PaginationBarTest::pagesFollowRowsAndSize_data()
+/// "page/pages rows", and the buttons that are enabled.
+QString PaginationBarTest::state() const
+{
+    QString all = field()->text() + '/' + m_bar->findChild<QLabel *>("totalPage")->text() + ' ' +
+                  sizes()->currentText();
+    for (const char *name : {"headButton", "prevButton", "nextButton", "tailButton"})
+        all += button(name)->isEnabled() ? QString(" ") + QString(name).left(4) : QString();
+    return all;
+}
+
+void PaginationBarTest::figuresAndControlsGiveThePage_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("page");
     QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("signalled");
     QTest::addColumn<QString>("shown");
-    testRow("no rows are one page", 0, 1, 200, "1/1");
-    testRow("a full page", 200, 1, 200, "1/1");
-    testRow("one row more", 201, 2, 200, "2/2");
-    testRow("other size", 1001, 2, 500, "2/3");
-    testRow("page beyond", 500, 7, 200, "3/3");
+    testRow("no rows are one page", 0, 1, 200, "", "", "1/1 200");
+    testRow("a full page", 200, 1, 200, "", "", "1/1 200");
+    testRow("one row more", 201, 2, 200, "", "", "2/2 200 head prev");
+    testRow("other size", 1001, 2, 500, "", "", "2/3 500 head prev next tail");
+    testRow("page beyond", 500, 7, 200, "", "", "3/3 200 head prev");
+    testRow("next", 1000, 1, 200, "nextButton", "2/200", "2/5 200 head prev next tail");
+    testRow("previous", 1000, 3, 200, "prevButton", "2/200", "2/5 200 head prev next tail");
+    testRow("last", 1000, 2, 200, "tailButton", "5/200", "5/5 200 head prev");
+    testRow("first", 1000, 2, 200, "headButton", "1/200", "1/5 200 next tail");
+    testRow("asked beyond", 1000, 1, 200, "page 9", "5/200", "5/5 200 head prev");
+    testRow("page zero means an empty result", 1000, 3, 200, "page 0", "1/0", "1/1 200");
+    testRow("chosen size asks again", 1000, 5, 200, "size 500", "2/500", "2/2 500 head prev");
+    testRow("typed page", 1000, 1, 200, "type 4", "4/200", "4/5 200 head prev next tail");
+    testRow("typed page that stands", 1000, 4, 200, "type 4", "", "4/5 200 head prev next tail");
 }
 
-void PaginationBarTest::pagesFollowRowsAndSize()
+void PaginationBarTest::figuresAndControlsGiveThePage()
 {
     QFETCH(int, rows);
     QFETCH(int, page);
     QFETCH(int, size);
-    QFETCH(QString, shown);
-
+    QFETCH(QString, control);
+    QFETCH(QString, signalled);
     showReply(rows, page, size);
-
-    QCOMPARE(field()->text() + '/' + pages(), shown);
-    QCOMPARE(m_bar->perCnt(), size);
-    QCOMPARE(sizes()->currentText(), QString::number(size));
-}
-
-void PaginationBarTest::buttonsSignalTheirPage()
-{
-    showReply(1000, 2, 200);
     QSignalSpy spy(m_bar.get(), &TFPaginationBar::signalCurrentPageChanged);
+    if (signalled.isEmpty() && !control.isEmpty())
+        expectWarning("^current page not changed$");
 
-    for (const char *name : {"nextButton", "prevButton", "tailButton", "headButton"})
-        button(name)->click();
+    act(control);
 
-    m_bar->setCurrentPage(9);
-
-    QCOMPARE(signalled(spy), QString("3/200 2/200 5/200 1/200 5/200"));
-    QCOMPARE(field()->text(), QString("5"));
-}
-
-void PaginationBarTest::buttonsAreEnabledWhereTheyLead()
-{
-    const auto enabled = [this] {
-        QStringList names;
-        for (const char *name : {"headButton", "prevButton", "nextButton", "tailButton"}) {
-            if (button(name)->isEnabled())
-                names.append(name);
-        }
-        return names.join(' ');
-    };
-
-    showReply(600, 1, 200);
-    QCOMPARE(enabled(), QString("nextButton tailButton"));
-    showReply(600, 3, 200);
-    QCOMPARE(enabled(), QString("headButton prevButton"));
-    showReply(10, 1, 200);
-    QCOMPARE(enabled(), QString());
-}
-
-void PaginationBarTest::pageZeroMeansAnEmptyResult()
-{
-    showReply(1000, 3, 200);
-    QSignalSpy spy(m_bar.get(), &TFPaginationBar::signalCurrentPageChanged);
-
-    m_bar->setCurrentPage(0);
-
-    QCOMPARE(signalled(spy), QString("1/0"));
-    QCOMPARE(field()->text() + '/' + pages(), QString("1/1"));
+    QStringList all;
+    for (const QList<QVariant> &one : qAsConst(spy))
+        all.append(one.at(0).toString() + '/' + one.at(1).toString());
+    QCOMPARE(all.join(' '), signalled);
+    QTEST(state(), "shown");
 }
 
 void PaginationBarTest::sizeOutsideTheListBecomesTheOnlyChoice()
 {
     showReply(1000, 1, 300);
 
+    QCOMPARE(state(), QString("1/4 300 next tail"));
     QCOMPARE(sizes()->count(), 1);
-    QCOMPARE(sizes()->currentText() + " of " + pages(), QString("300 of 4"));
     m_bar->reset();
     QCOMPARE(sizes()->count(), 1);
 }
 
-void PaginationBarTest::chosenSizeAsksForThePageAgain()
-{
-    showReply(1000, 5, 200);
-    QSignalSpy spy(m_bar.get(), &TFPaginationBar::signalCurrentPageChanged);
-
-    sizes()->setCurrentIndex(2);
-    emit sizes()->activated(2);
-
-    QCOMPARE(signalled(spy), QString("2/500"));
-    QCOMPARE(pages(), QString("2"));
-}
-
-void PaginationBarTest::typedPageIsSignalledOnce()
-{
-    showReply(1000, 1, 200);
-    QSignalSpy spy(m_bar.get(), &TFPaginationBar::signalCurrentPageChanged);
-    expectWarning("^current page not changed$");
-
-    field()->clear();
-    QTest::keyClicks(field(), "4\r");
-    QTest::keyClick(field(), Qt::Key_Return);
-
-    QCOMPARE(signalled(spy), QString("4/200"));
-}
-
-void PaginationBarTest::choiceIsKeptWhereTheNumberOfChoicesStands_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("index");
-    testRow("four choices", 4, 2);
-    testRow("another number", 1, 0);
-}
-
 void PaginationBarTest::choiceIsKeptWhereTheNumberOfChoicesStands()
 {
-    QFETCH(int, count);
-    QFETCH(int, index);
-    sizes()->setCurrentIndex(2);
-    m_bar.reset();
-    QSettings settings("TFPaginationBar", "curpage");
-    QCOMPARE(settings.value("Settings/index").toInt(), 2);
-    QCOMPARE(settings.value("Settings/count").toInt(), 4);
+    for (const int count : {4, 1}) {
+        sizes()->setCurrentIndex(2);
+        m_bar.reset();
+        QSettings settings("TFPaginationBar", "curpage");
+        QCOMPARE(settings.value("Settings/index").toInt(), 2);
+        QCOMPARE(settings.value("Settings/count").toInt(), 4);
 
-    settings.setValue("Settings/count", count);
-    settings.sync();
-    m_bar = std::make_unique<TFPaginationBar>();
+        settings.setValue("Settings/count", count);
+        settings.sync();
+        m_bar = std::make_unique<TFPaginationBar>();
 
-    QCOMPARE(sizes()->currentIndex(), index);
+        QCOMPARE(sizes()->currentIndex(), count == 4 ? 2 : 0);
+    }
 }
 
 SUBJECT_TEST_MAIN(PaginationBarTest)

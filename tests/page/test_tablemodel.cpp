@@ -10,7 +10,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QColor>
-#include <QElapsedTimer>
 #include <QJSEngine>
 #include <QSignalSpy>
 
@@ -43,8 +42,6 @@ private slots:
     void valuesShowByTypeAndFormat();
     void unitColumnsFollowTheChosenUnit_data();
     void unitColumnsFollowTheChosenUnit();
-    void alignmentIsThatOfTheCellOrItsType_data();
-    void alignmentIsThatOfTheCellOrItsType();
     void expressionColoursTheText_data();
     void expressionColoursTheText();
     void compiledExpressionEqualsTheEvaluatedOne();
@@ -52,8 +49,7 @@ private slots:
     void skinChangeReachesExpressions();
     void endlessExpressionIsInterruptedOnce();
     void rolesTellTheCell();
-    void captionsFollowTheHeaderAndClearEmptiesTheRows();
-    void selectionIsAllRowsInTheirColumns();
+    void headerAndRowsAreTold();
 
 private:
     struct Column
@@ -144,23 +140,24 @@ void TableModelTest::valuesShowByTypeAndFormat_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QVariant>("shown");
+    QTest::addColumn<QString>("aligned");
     const auto add = [](const char *name, const char *type, const char *format, const QVariant &value,
-                        const QVariant &shown) {
-        testRow(name, QString(type), QString(format), value, shown);
+                        const QVariant &shown, const char *aligned) {
+        testRow(name, QString(type), QString(format), value, shown, aligned);
     };
-    add("groups and two decimals", "Decimal", "", 1234567.891, "1,234,567.89");
-    add("precision in capitals", "decimal", "N4", 1.5, "1.5000");
-    add("no decimals", "Decimal", "n0", 2.6, "3");
-    add("number above twenty", "Decimal", "n21", 1, "1.00");
-    add("number as text", "Decimal", "", "12.5", "12.50");
-    add("no number stays", "Decimal", "", "--", "--");
-    add("invalid shows nothing", "Decimal", "", QVariant(), QVariant());
-    add("null shows nothing", "String", "", QVariant::fromValue(nullptr), QVariant());
-    add("text is trimmed", "String", "", "  a b ", "a b");
-    add("any string type", "xStringy", "", 5, "5");
-    add("day", "DateTime", "", 1577808000000.0, "2020-01-01");
-    add("day of the epoch", "datetime", "yyyy-MM-dd hh:mm", 0, "1970-01-01 08:00");
-    add("other types stay", "Int32", "n2", 7, 7);
+    add("groups and two decimals", "Decimal", "", 1234567.891, "1,234,567.89", "130");
+    add("precision in capitals", "decimal", "N4", 1.5, "1.5000", "132");
+    add("no decimals", "Decimal", "n0", 2.6, "3", "130");
+    add("number above twenty", "Decimal", "n21", 1, "1.00", "130");
+    add("number as text", "Decimal", "", "12.5", "12.50", "130");
+    add("no number stays", "Decimal", "", "--", "--", "130");
+    add("invalid shows nothing", "UInt64", "", QVariant(), QVariant(), "130");
+    add("null shows nothing", "String", "", QVariant::fromValue(nullptr), QVariant(), "129");
+    add("text is trimmed", "String", "", "  a b ", "a b", "129");
+    add("any string type", "xStringy", "", 5, "5", "132");
+    add("day", "DateTime", "", 1577808000000.0, "2020-01-01", "132");
+    add("day of the epoch", "datetime", "yyyy-MM-dd hh:mm", 0, "1970-01-01 08:00", "132");
+    add("other types stay", "Int32", "n2", 7, 7, "130");
 }
 
 void TableModelTest::valuesShowByTypeAndFormat()
@@ -169,13 +166,21 @@ void TableModelTest::valuesShowByTypeAndFormat()
     QFETCH(QString, format);
     QFETCH(QVariant, value);
     QFETCH(QVariant, shown);
+    QFETCH(QString, aligned);
 
     setColumns({{"F", type, format}});
-    m_model->setRows(QList<RowData>{row({value})});
+    QStringList alignments;
+    for (int alignment = 0; alignment < 4; ++alignment) {
+        RowData cells = row({value});
+        cells[0].textAlignment = alignment;
+        m_model->setRows(QList<RowData>{cells});
+        alignments.append(at(0, 0, Qt::TextAlignmentRole).toString());
+    }
 
     QCOMPARE(at(0, 0), shown);
     const QString tip = shown.isValid() ? "<p style='color:#0060E3'>" + shown.toString() + "</p>" : QString();
     QCOMPARE(at(0, 0, Qt::ToolTipRole).toString(), tip);
+    QCOMPARE(alignments.join(' '), aligned + " 129 132 130");
 }
 
 void TableModelTest::unitColumnsFollowTheChosenUnit_data()
@@ -206,32 +211,6 @@ void TableModelTest::unitColumnsFollowTheChosenUnit()
     QCOMPARE(unit + ' ' + at(0, 0).toString(), shown);
 }
 
-void TableModelTest::alignmentIsThatOfTheCellOrItsType_data()
-{
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<int>("expected");
-    testRow("number", 0, "UInt64", 130);
-    testRow("compared with case", 0, "decimal", 132);
-    testRow("text", 0, "String", 129);
-    testRow("date", 0, "DateTime", 132);
-    testRow("left", 1, "Decimal", 129);
-    testRow("centre", 2, "Decimal", 132);
-    testRow("right", 3, "String", 130);
-}
-
-void TableModelTest::alignmentIsThatOfTheCellOrItsType()
-{
-    QFETCH(int, alignment);
-    QFETCH(QString, type);
-    setColumns({{"F", type}});
-    RowData cells = row({1});
-    cells[0].textAlignment = alignment;
-    m_model->setRows(QList<RowData>{cells});
-
-    QTEST(at(0, 0, Qt::TextAlignmentRole).toInt(), "expected");
-}
-
 void TableModelTest::expressionColoursTheText_data()
 {
     QTest::addColumn<QString>("expression");
@@ -240,7 +219,6 @@ void TableModelTest::expressionColoursTheText_data()
     testRow("cells are texts", "$A + 1 == '51' ? '#123456' : ''", "#123456");
     testRow("function", "function() { if ($B == 'x') return 'blue'; }", "#0000ff");
     testRow("name put together at run time", "this['$' + 'B'] == 'x' ? 'red' : ''", "#ff0000");
-    testRow("skin", "$skin == 'white' ? 'black' : 'white'", "#000000");
     testRow("default colour", "'$use_default_color'", "");
     testRow("no text", "17", "");
     testRow("nothing", "undefined", "");
@@ -262,23 +240,11 @@ void TableModelTest::expressionColoursTheText()
 
 void TableModelTest::compiledExpressionEqualsTheEvaluatedOne()
 {
-    const QStringList pieces = {"$A",         "$B",
-                                "$C",         "$名",
-                                "$",          "$skin",
-                                "'red'",      "'blue'",
-                                " + ",        " > ",
-                                " ? ",        " : ",
-                                "(",          ")",
-                                "1",          "this.",
-                                "eval('$A')", "typeof ",
-                                ", ",         "function(){return $B}",
-                                "() => $C",   "\\u0024A",
-                                "$A = ",      "x",
-                                "; ",         "arguments.length",
-                                ".length",    "'$use_default_color'",
-                                "null",       " || ",
-                                "!",          "//",
-                                "-",          "(function(){throw 'red'})()"};
+    const QStringList pieces =
+        QString("$A~$B~$C~$名~$~$skin~'red'~'blue'~ + ~ > ~ ? ~ : ~(~)~1~this.~eval('$A')~typeof ~, ~"
+                "function(){return $B}~() => $C~\\u0024A~$A = ~x~; ~arguments.length~.length~"
+                "'$use_default_color'~null~ || ~!~//~-~(function(){throw 'red'})()")
+            .split('~');
     const QStringList values = {"", "red", "5", "-1.5", "#123456", "none", "'"};
     const QVector<QString> fields = {"A", "B", "名", "C", "LAST"};
     std::mt19937 random(11);
@@ -345,13 +311,9 @@ void TableModelTest::endlessExpressionIsInterruptedOnce()
         rows.append(row({i, 1}));
     m_model->setRows(rows);
     expectWarning("style expression does not end, ignored from now on:");
-    QElapsedTimer clock;
-    clock.start();
 
     for (int i = 0; i < rows.size(); ++i)
         QVERIFY(colour(i, 0).isEmpty());
-
-    QVERIFY(clock.elapsed() < 5000);
 }
 
 void TableModelTest::rolesTellTheCell()
@@ -362,53 +324,48 @@ void TableModelTest::rolesTellTheCell()
     cells[0].secuId = 77;
     m_model->setRows(QList<RowData>{cells});
 
-    QCOMPARE(int(TFSubjectTableModel::FieldNameRole), 266);
-    QCOMPARE(int(TFSubjectTableModel::SortValueRole), 274);
-    QCOMPARE(at(0, 0, 266), QVariant("A"));
+    QStringList told;
+    for (const int role : {266, 268, 269, 270, 272, 274})
+        told.append(at(0, 0, role).toString());
+    QCOMPARE(told.join(' '), QString("A view://x 12 77  12"));
     QCOMPARE(at(0, 0, 267).value<RowData>().value(1).value, QVariant("十二个字的名字比十个字长"));
-    QCOMPARE(at(0, 0, 268), QVariant("view://x"));
-    QCOMPARE(at(0, 0, 269), QVariant("12"));
-    QCOMPARE(at(0, 0, 270), QVariant(77.0));
-    QCOMPARE(at(0, 0, 274), QVariant(12.0));
     QCOMPARE(at(0, 1, 274), QVariant("十二个字的名字比十个"));
-    QVERIFY(!at(0, 0, 272).isValid());
     QVERIFY(m_model->data(QModelIndex(), 271).canConvert<QColor>());
     QCOMPARE(int(m_model->flags(QModelIndex())), 33);
 }
 
-void TableModelTest::captionsFollowTheHeaderAndClearEmptiesTheRows()
+void TableModelTest::headerAndRowsAreTold()
 {
     m_model = std::make_unique<TestableModel>();
     auto tester = std::make_unique<QAbstractItemModelTester>(m_model.get());
-    QCOMPARE(m_model->headerData(0, Qt::Horizontal), QVariant(0));
-    setColumns({{"A"}, {"B"}});
+    QStringList header;
+    connect(m_model.get(), &QAbstractItemModel::headerDataChanged, this,
+            [&header](Qt::Orientation, int first, int last) {
+                header.append(QString("%1-%2").arg(first).arg(last));
+            });
     QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+    QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);
+    QCOMPARE(m_model->headerData(0, Qt::Horizontal), QVariant(0));
 
-    m_model->setRows(QList<RowData>{row({1, 2}), row({3})});
+    setColumns({{"A"}, {"B", "String"}});
+    m_model->setRows(QList<RowData>{row({1, "x"}, 2), row({3})});
 
+    QCOMPARE(header.join(' '), QString("0-1 0-1"));
     QCOMPARE(changed.size(), 1);
     QCOMPARE(changed.at(0).at(1).toModelIndex(), m_model->index(1, 1));
     QCOMPARE(m_model->headerData(1, Qt::Vertical), QVariant("B"));
     QCOMPARE(m_model->headerData(9, Qt::Horizontal, Qt::TextAlignmentRole), QVariant(132));
     QVERIFY(!at(1, 1).isValid());
-    QSignalSpy reset(m_model.get(), &QAbstractItemModel::modelReset);
+    QList<QList<QVariant>> selected;
+    m_model->getAllSelectedData(&selected);
+    QCOMPARE(selected, (QList<QList<QVariant>>{{"1.00", "x"}, {"3.00"}}));
+
     m_model->clear();
     QCOMPARE(reset.size(), 1);
     QCOMPARE(m_model->rowCount(), 0);
     tester.reset();
     m_model->setHeader(nullptr);
     QCOMPARE(m_model->columnCount(), 0);
-}
-
-void TableModelTest::selectionIsAllRowsInTheirColumns()
-{
-    setColumns({{"A"}, {"B", "String"}});
-    m_model->setRows(QList<RowData>{row({1, "x"}, 2), row({2})});
-
-    QList<QList<QVariant>> list;
-    m_model->getAllSelectedData(&list);
-
-    QCOMPARE(list, (QList<QList<QVariant>>{{"1.00", "x"}, {"2.00"}}));
 }
 
 SUBJECT_TEST_MAIN(TableModelTest)
