@@ -29,246 +29,190 @@ class TestRequests : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void init();
-
-    void bodiesAreSortedCompactJson_data();
-    void bodiesAreSortedCompactJson();
-    void laterParameterReplacesAnEarlierOne();
-    void addressIsJoinedAsText_data();
-    void addressIsJoinedAsText();
-    void conditionIsWrittenBeforeItsParameterIsChecked();
-    void valuesAreBoundByTheirNumberAndOperator_data();
-    void valuesAreBoundByTheirNumberAndOperator();
-    void operatorsOutsideTheListAreRefused_data();
-    void operatorsOutsideTheListAreRefused();
-    void propertiesAreReadByExactName();
-    void envelopeNeedsItsFourKeys_data();
-    void envelopeNeedsItsFourKeys();
-    void badEnvelopeLeavesTheResponseAlone();
-    void bytesAndTextReadAlike();
-    void navigationNeedsRows();
-};
-
-void TestRequests::init()
-{
-    beginMessages();
-    TFUc::setBaseUrl(QUrl("http://127.0.0.1:81/x"));
-    TFUc::setUserId("u");
-    TFUc::setProductId("p");
-}
-
-void TestRequests::bodiesAreSortedCompactJson_data()
-{
-    QTest::addColumn<TFUc::TFRequestContent>("content");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("body");
-    const TFUc::Parameters params = {{"P", 1.5}, {"EMPTY", ""}, {"NULL", QVariant()}, {QString(), 1}};
-    const TFUc::Filters filters = {{"F", "", ">=", {"a"}}, {"G", "g1", "==", {}}, {QString(), "", "==", {1}}};
-    const QString filter = R"json("filter":"(F >= :F)","filterParams":{"F":"a"},)json";
-    // Contents are made here, before init() of a row.
-    TFUc::setBaseUrl(QUrl("http://127.0.0.1:81/x"));
-    TFUc::setUserId("u");
-    TFUc::setProductId("p");
-    testRow("navigation", TFUc::navigationRequest(9007199254740991), "/x/bas/ds/data",
-            R"json({"P_NODE_CODE":9007199254740991,%1,"objId":38})json");
-    const QString blocks = R"json("filter":"(SECU_TYP_CODE == :SECU_TYP_CODE)",)json"
-                           R"json("filterParams":{"SECU_TYP_CODE":10},"objId":43)json";
-    testRow("blocks", TFUc::blockRowsRequest(10), "/x/bas/ds/data", "{%1," + blocks + "}");
-    testRow("constants", TFUc::constantsRequest(), "/x/bas/ds/data", R"json({%1,"objId":390})json");
-    testRow("configuration", TFUc::viewConfigRequest(260, {}, {}), "/x/bas/subject/data",
-            R"json({%1,"flag":0,"obj_vw_id":260})json");
-    testRow("rows of a page", TFUc::viewDataRequest(260, params, filters, {false, 3, 50}),
-            "/x/bas/subject/data",
-            R"json({"EMPTY":"","P":1.5,%1,)json" + filter +
-                R"json("flag":1,"obj_vw_id":260,"page":3,"size":50})json");
-    testRow("all rows", TFUc::viewDataRequest(260, {}, {}, {true, 3, 50}), "/x/bas/subject/data",
-            R"json({%1,"flag":1,"obj_vw_id":260})json");
-    testRow("whole set", TFUc::wholeDataRequest(-1, {}, filters), "/x/bas/subject/data",
-            R"json({%1,)json" + filter + R"json("flag":2,"obj_vw_id":-1})json");
-}
-
-void TestRequests::bodiesAreSortedCompactJson()
-{
-    QFETCH(TFUc::TFRequestContent, content);
-    QFETCH(QString, path);
-    QFETCH(QString, body);
-    QCOMPARE(content.url.path(), path);
-    QCOMPARE(QString::fromUtf8(content.body), body.arg(R"("auth":{"prodId":"p","userId":"u"})"));
-    QVERIFY(content.spare.isEmpty() && content.headers.isEmpty());
-}
-
-void TestRequests::laterParameterReplacesAnEarlierOne()
-{
-    const auto content = TFUc::viewRequest(5, 1, {{"A", 1}, {"A", "2"}, {"obj_vw_id", 9}}, {}, {true, 1, 1});
-    const QJsonObject body = QJsonDocument::fromJson(content.body).object();
-    QCOMPARE(body.value("A"), QJsonValue("2"));
-    QCOMPARE(body.value("obj_vw_id"), QJsonValue(5));
-}
-
-void TestRequests::addressIsJoinedAsText_data()
-{
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("url");
-    testRow("host and port", "http://h:8080", "http://h:8080/bas/ds/data");
-    testRow("path with a slash", "http://h/api/", "http://h/api//bas/ds/data");
-    testRow("empty: the toolkit decides", "", "file:///bas/ds/data");
-}
-
-void TestRequests::addressIsJoinedAsText()
-{
-    QFETCH(QString, base);
-    TFUc::setBaseUrl(QUrl(base));
-    QTEST(TFUc::dataObjectUrl().toString(), "url");
-}
-
-void TestRequests::conditionIsWrittenBeforeItsParameterIsChecked()
-{
-    TFUc::TFJSContent body;
-    QVERIFY(body.insertFilter("F", ">", {1}));
-    QVERIFY(body.insertFilter("G", "like", {"%a"}, "g"));
-
-    expectWarning("has same param \"F\"  current param : QMap.*\"F\".*\"g\"");
-    QVERIFY(!body.insertFilter("F", "<", {2}));
-
-    QCOMPARE(written(body.object),
-             R"json({"filter":"(F > :F) && (G like :g) && (F < :F)","filterParams":{"F":1,"g":"%a"}})json");
-}
-
-void TestRequests::valuesAreBoundByTheirNumberAndOperator_data()
-{
-    QTest::addColumn<QString>("op");
-    QTest::addColumn<QList<QVariant>>("values");
-    QTest::addColumn<QString>("bound");
-    testRow("one value", ">", QList<QVariant>{1}, "1");
-    testRow("two values", ">", QList<QVariant>{1, "b"}, R"([1,"b"])");
-    testRow("in with one value is a list", "in", QList<QVariant>{1}, "[1]");
-    testRow("nin with one value is none", "nin", QList<QVariant>{1}, "1");
-    testRow("a list as the one value", "==", QList<QVariant>{QVariantList{1, 2}}, "[1,2]");
-}
-
-void TestRequests::valuesAreBoundByTheirNumberAndOperator()
-{
-    QFETCH(QString, op);
-    QFETCH(QList<QVariant>, values);
-    QFETCH(QString, bound);
-    TFUc::TFJSContent body;
-    QVERIFY(body.insertFilter("F", op, values));
-    QCOMPARE(written(body.object),
-             QString(R"json({"filter":"(F %1 :F)","filterParams":{"F":%2}})json").arg(op, bound));
-}
-
-void TestRequests::operatorsOutsideTheListAreRefused_data()
-{
-    QTest::addColumn<QString>("op");
-    for (const char *op : {"=", "||", "LIKE", "", "between"})
-        testRow(op, op);
-}
-
-void TestRequests::operatorsOutsideTheListAreRefused()
-{
-    QFETCH(QString, op);
-    TFUc::TFJSContent body;
-    expectWarning("did not contain the operator \"" + QRegularExpression::escape(op) + "\"");
-    QVERIFY(!body.insertFilter("F", op, {1}));
-    QVERIFY(body.object.isEmpty());
-}
-
-void TestRequests::propertiesAreReadByExactName()
-{
-    const QJsonArray rows = QJsonDocument::fromJson(R"([
-        {"prop_name": "IsCross", "prop_val": "1"}, {"prop_name": "isCross", "prop_val": "0"},
-        {"prop_name": "IsGroup", "prop_val": "true"}, {"prop_name": "IsOrder", "prop_val": 1},
-        {"prop_name": "isPaged", "prop_val": "0"}, {"prop_name": "isShowFilter"},
-        {"prop_name": "pageSize", "prop_val": "50"}, {"prop_name": "FrozenCount", "prop_val": "x"},
-        {"prop_name": "MaxColumnWith", "prop_val": "300"},
-        {"prop_name": "ObjViewType", "prop_val": "chart"}, {"prop_name": "ObjViewType", "prop_val": "table"},
-        {"prop_name": "Bands", "prop_val": "no", "ext_prop_val": "[]"}, 5, null, {}, {"prop_val": "1"}
-    ])")
-                                .array();
-
-    const TFUc::TFViewProperties p = TFUc::readViewProperties(rows);
-
-    QVERIFY(p.IsCross && !p.IsGroup && !p.IsOrder && !p.isPaged && !p.isShowFilter && !p.isShowBlock);
-    QCOMPARE(p.pageSize, 50.0);
-    QCOMPARE(p.FrozenCount, 0.0);
-    QCOMPARE(p.VGridColumnWidth, 200.0);
-    QCOMPARE(p.BandsLevel, 1.0);
-    QCOMPARE(p.MaxColumnWith, QString("300"));
-    QCOMPARE(p.ObjViewType, QString("table"));
-    QCOMPARE(p.Bands, QString("[]"));
-    QVERIFY(TFUc::readViewProperties({}).isPaged);
-}
-
-void TestRequests::envelopeNeedsItsFourKeys_data()
-{
-    QTest::addColumn<QString>("json");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QString>("said");
-    testRow("all", R"({"state":1,"msg":"x","extend":null,"data":[]})", true, "");
-    testRow("null everywhere", R"({"state":null,"msg":null,"extend":null,"data":null})", true, "");
-    testRow("an error of the service is an envelope", R"({"state":-5,"msg":"no","extend":{},"data":{}})",
-            true, "");
-    testRow("none", "{}", false, "can't found the key: \"state\"");
-    testRow("no data", R"({"state":1,"msg":"x","extend":null})", false, "can't found the key: \"data\"");
-    testRow("a list", "[1,2]", false, "can't found the key: \"state\"");
-}
-
-void TestRequests::envelopeNeedsItsFourKeys()
-{
-    QFETCH(QString, json);
-    QFETCH(bool, ok);
-    QFETCH(QString, said);
-    NtResponse response;
-    QCOMPARE(TFJSP::parseResponse(json, response), ok);
-    QCOMPARE(debugLines().join('\n'), said);
-    QVERIFY(TFJSP::hasAllKeys({}, {}));
-}
-
-void TestRequests::badEnvelopeLeavesTheResponseAlone()
-{
-    NtResponse response;
-    QVERIFY(TFJSP::parseResponse(QString(R"({"state":"7","msg":"m","extend":1,"data":[2]})"), response));
-    QCOMPARE(response.state, 0);
-    QCOMPARE(response.msg, QString("m"));
-    const QString before = written(response);
-
-    expectWarning("respone is not json obj: \"illegal value\"");
-    QVERIFY(!TFJSP::parseResponse(QString("<html>"), response));
-    QVERIFY(!TFJSP::parseResponse(QString("{}"), response));
-    QCOMPARE(written(response), before);
-}
-
-void TestRequests::bytesAndTextReadAlike()
-{
-    // Replies with bytes changed at random: broken UTF-8, zero bytes, cut escapes, a mark at the start.
-    allowWarnings("respone is not json obj:");
-    const QByteArray good =
-        R"({"state":1,"msg":"年度\ud83d\ude00 \u4e2d","extend":{"a":[1,2.5,-3e300]},"data":[{"é":"元"}]})";
-    std::mt19937 random(7);
-    const QByteArray spoilers("\0\xff\xed\xa0\x80\xef\xbb\xbf\"\\{}[],\xf0\x9f", 18);
-    for (int round = 0; round < 5000; ++round) {
-        QByteArray reply = good;
-        for (unsigned i = 0; i < random() % 4; ++i)
-            reply[int(random() % unsigned(reply.size()))] = spoilers.at(int(random() % 18));
-        if (random() % 8 == 0)
-            reply.prepend("\xef\xbb\xbf");
-        NtResponse fromBytes;
-        NtResponse fromText;
-        const bool ok = TFJSP::parseResponse(QString::fromUtf8(reply), fromText);
-        QVERIFY2(TFJSP::parseResponse(reply, fromBytes) == ok, reply.toPercentEncoding());
-        QCOMPARE(written(fromBytes), written(fromText));
+    void initTestCase()
+    {
+        TFUc::setBaseUrl(QUrl("http://127.0.0.1:81/x"));
+        TFUc::setUserId("u");
+        TFUc::setProductId("p");
     }
-}
 
-void TestRequests::navigationNeedsRows()
-{
-    QJsonArray rows;
-    QVERIFY(TFJSP::parseNavTree(QString(R"({"state":0,"msg":"","extend":null,"data":[{"A":1},2]})"), rows));
-    QCOMPARE(rows.size(), 2);
-    QVERIFY(!TFJSP::parseNavTree(QByteArray(R"({"state":1,"msg":"","extend":null,"data":{"A":1}})"), rows));
-    QCOMPARE(debugLines(), QStringList("parseSubjectTree:array is empty"));
-    QVERIFY(rows.isEmpty());
-}
+    void bodiesAreSortedCompactJson_data()
+    {
+        QTest::addColumn<TFUc::TFRequestContent>("content");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("body");
+        const TFUc::Parameters params = {{"P", 1}, {"EMPTY", ""}, {"NULL", QVariant()}, {QString(), 1}};
+        const TFUc::Parameters twice = {{"P", 1}, {"P", 1.5}, {"obj_vw_id", 9}, {"page", 9}};
+        const TFUc::Filters filters = {
+            {"F", "", ">=", {"a"}}, {"G", "", "==", {}}, {QString(), "", "==", {1}}};
+        const QString filter = R"json("filter":"(F >= :F)","filterParams":{"F":"a"},)json";
+        testRow("navigation", TFUc::navigationRequest(9007199254740991), "/x/bas/ds/data",
+                R"json({"P_NODE_CODE":9007199254740991,%1,"objId":38})json");
+        const QString blocks = R"json("filter":"(SECU_TYP_CODE == :SECU_TYP_CODE)",)json"
+                               R"json("filterParams":{"SECU_TYP_CODE":10},"objId":43)json";
+        testRow("blocks", TFUc::blockRowsRequest(10), "/x/bas/ds/data", "{%1," + blocks + "}");
+        testRow("constants", TFUc::constantsRequest(), "/x/bas/ds/data", R"json({%1,"objId":390})json");
+        testRow("configuration", TFUc::viewConfigRequest(260, params, filters), "/x/bas/subject/data",
+                R"json({"EMPTY":"","P":1,%1,)json" + filter + R"json("flag":0,"obj_vw_id":260})json");
+        testRow("rows of a page", TFUc::viewDataRequest(260, params, filters, {false, 3, 50}),
+                "/x/bas/subject/data",
+                R"json({"EMPTY":"","P":1,%1,)json" + filter +
+                    R"json("flag":1,"obj_vw_id":260,"page":3,"size":50})json");
+        testRow("all rows", TFUc::viewDataRequest(260, {}, {}, {true, 3, 50}), "/x/bas/subject/data",
+                R"json({%1,"flag":1,"obj_vw_id":260})json");
+        testRow("whole set", TFUc::wholeDataRequest(-1, {}, filters), "/x/bas/subject/data",
+                R"json({%1,)json" + filter + R"json("flag":2,"obj_vw_id":-1})json");
+        testRow("the last of a name counts", TFUc::viewRequest(5, 1, twice, {}, {false, 1, 2}),
+                "/x/bas/subject/data", R"json({"P":1.5,%1,"flag":1,"obj_vw_id":5,"page":9,"size":2})json");
+    }
+
+    void bodiesAreSortedCompactJson()
+    {
+        QFETCH(TFUc::TFRequestContent, content);
+        QFETCH(QString, body);
+        QTEST(content.url.path(), "path");
+        QCOMPARE(QString::fromUtf8(content.body), body.arg(R"("auth":{"prodId":"p","userId":"u"})"));
+        QVERIFY(content.spare.isEmpty() && content.headers.isEmpty());
+    }
+
+    void addressIsJoinedAsText()
+    {
+        const auto restore = qScopeGuard([this] { initTestCase(); });
+        TFUc::setBaseUrl(QUrl("http://h:8080/api/"));
+        QCOMPARE(TFUc::dataObjectUrl(), QUrl("http://h:8080/api//bas/ds/data"));
+        TFUc::setBaseUrl(QUrl()); // the toolkit decides what becomes of the path
+        QCOMPARE(TFUc::dataObjectUrl(), QUrl("file:///bas/ds/data"));
+    }
+
+    void conditionIsWrittenBeforeItsParameterIsChecked()
+    {
+        TFUc::TFJSContent body;
+        QVERIFY(body.insertFilter("F", ">", {1}));
+        QVERIFY(body.insertFilter("G", "like", {"%a"}, "g"));
+
+        expectWarning("has same param \"F\"  current param : QMap.*\"F\".*\"g\"");
+        QVERIFY(!body.insertFilter("F", "<", {2}));
+
+        QCOMPARE(
+            written(body.object),
+            R"json({"filter":"(F > :F) && (G like :g) && (F < :F)","filterParams":{"F":1,"g":"%a"}})json");
+    }
+
+    void valuesAreBoundByTheirNumberAndOperator_data()
+    {
+        QTest::addColumn<QString>("op");
+        QTest::addColumn<QVariantList>("values");
+        QTest::addColumn<QString>("bound");
+        testRow("one value", ">", QVariantList{1}, "1");
+        testRow("two values", ">", QVariantList{1, "b"}, R"([1,"b"])");
+        testRow("in with one value is a list", "in", QVariantList{1}, "[1]");
+        testRow("nin with one value is none", "nin", QVariantList{1}, "1");
+        testRow("a list as the one value", "==", QVariantList{QVariant(QVariantList{1, 2})}, "[1,2]");
+    }
+
+    void valuesAreBoundByTheirNumberAndOperator()
+    {
+        QFETCH(QString, op);
+        QFETCH(QVariantList, values);
+        QFETCH(QString, bound);
+        TFUc::TFJSContent body;
+        QVERIFY(body.insertFilter("F", op, values));
+        QCOMPARE(written(body.object),
+                 QString(R"json({"filter":"(F %1 :F)","filterParams":{"F":%2}})json").arg(op, bound));
+    }
+
+    void operatorsOutsideTheListAreRefused()
+    {
+        TFUc::TFJSContent body;
+        for (const char *op : {"=", "||", "LIKE", "", "between"}) {
+            expectWarning("did not contain the operator \"" + QRegularExpression::escape(op) + "\"");
+            QVERIFY2(!body.insertFilter("F", op, {1}) && body.object.isEmpty(), op);
+        }
+    }
+
+    void propertiesAreReadByExactName()
+    {
+        const QJsonDocument rows = QJsonDocument::fromJson(R"([
+            {"prop_name": "IsCross", "prop_val": "1"}, {"prop_name": "isCross", "prop_val": "0"},
+            {"prop_name": "IsGroup", "prop_val": "true"}, {"prop_name": "IsOrder", "prop_val": 1},
+            {"prop_name": "isPaged", "prop_val": "0"}, {"prop_name": "isShowFilter"},
+            {"prop_name": "pageSize", "prop_val": "50"}, {"prop_name": "FrozenCount", "prop_val": "x"},
+            {"prop_name": "ObjViewType", "prop_val": "chart"}, {"prop_name": "ObjViewType", "prop_val": "table"},
+            {"prop_name": "Bands", "prop_val": "no", "ext_prop_val": "[]"}, 5, null, {}, {"prop_val": "1"}
+        ])");
+
+        const TFUc::TFViewProperties p = TFUc::readViewProperties(rows.array());
+
+        QVERIFY(p.IsCross && !p.IsGroup && !p.IsOrder && !p.isPaged && !p.isShowFilter && !p.isShowBlock);
+        QCOMPARE((QList<double>{p.pageSize, p.FrozenCount, p.VGridColumnWidth, p.BandsLevel}),
+                 (QList<double>{50, 0, 200, 1}));
+        QCOMPARE(p.ObjViewType, QString("table"));
+        QCOMPARE(p.Bands, QString("[]"));
+        QVERIFY(TFUc::readViewProperties({}).isPaged);
+    }
+
+    void envelopeNeedsItsFourKeys_data()
+    {
+        QTest::addColumn<QString>("json");
+        QTest::addColumn<QString>("read");
+        QTest::addColumn<QString>("said");
+        testRow("all", R"({"state":7,"msg":"x","extend":null,"data":[2]})",
+                R"(7 x {"data":[2],"extend":null})", "");
+        testRow("null everywhere", R"({"state":null,"msg":null,"extend":null,"data":null})",
+                R"(0  {"data":null,"extend":null})", "");
+        testRow("a text as state", R"({"state":"7","msg":"no","extend":{},"data":1})",
+                R"(0 no {"data":1,"extend":{}})", "");
+        testRow("none", "{}", "", "can't found the key: \"state\"");
+        testRow("no data", R"({"state":1,"msg":"x","extend":null})", "", "can't found the key: \"data\"");
+        testRow("a list", "[1,2]", "", "can't found the key: \"state\"");
+        testRow("no JSON", "<html>", "", "respone is not json obj: \"illegal value\"");
+    }
+
+    void envelopeNeedsItsFourKeys()
+    {
+        QFETCH(QString, json);
+        QFETCH(QString, read);
+        QFETCH(QString, said);
+        allowWarnings("respone is not json obj");
+        NtResponse response;
+        response.msg = "before";
+        QCOMPARE(TFJSP::parseResponse(json, response), !read.isEmpty());
+        QCOMPARE(written(response), read.isEmpty() ? R"(0 before {"data":null,"extend":null})" : read);
+        QCOMPARE((debugLines() + warnings()).join('\n'), said);
+    }
+
+    void bytesAndTextReadAlike()
+    {
+        // Replies with bytes changed at random: broken UTF-8, zero bytes, cut escapes, a mark at the start.
+        allowWarnings("respone is not json obj:");
+        const QByteArray good =
+            R"({"state":1,"msg":"年度\ud83d\ude00 \u4e2d","extend":{"a":[1,2.5,-3e300]},"data":[{"é":"元"}]})";
+        std::mt19937 random(7);
+        const QByteArray spoilers("\0\xff\xed\xa0\x80\xef\xbb\xbf\"\\{}[],\xf0\x9f", 18);
+        for (int round = 0; round < 5000; ++round) {
+            QByteArray reply = good;
+            for (unsigned i = 0; i < random() % 4; ++i)
+                reply[int(random() % unsigned(reply.size()))] = spoilers.at(int(random() % 18));
+            if (random() % 8 == 0)
+                reply.prepend("\xef\xbb\xbf");
+            NtResponse fromBytes;
+            NtResponse fromText;
+            const bool ok = TFJSP::parseResponse(QString::fromUtf8(reply), fromText);
+            QVERIFY2(TFJSP::parseResponse(reply, fromBytes) == ok, reply.toPercentEncoding());
+            QCOMPARE(written(fromBytes), written(fromText));
+        }
+    }
+
+    void navigationNeedsRows()
+    {
+        QJsonArray rows;
+        QVERIFY(TFJSP::parseNavTree(QString(R"({"state":0,"msg":"","extend":null,"data":[1,2]})"), rows));
+        QCOMPARE(rows.size(), 2);
+        QVERIFY(!TFJSP::parseNavTree(QByteArray(R"({"state":1,"msg":"","extend":0,"data":{"A":1}})"), rows));
+        QCOMPARE(debugLines(), QStringList("parseSubjectTree:array is empty"));
+        QVERIFY(rows.isEmpty());
+    }
+};
 
 SUBJECT_TEST_MAIN(TestRequests)
 #include "tst_requests.moc"

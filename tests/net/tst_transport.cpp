@@ -1,8 +1,8 @@
 #include "subjecttest.h"
 
-#include "httpserver.h"
 #include "httpservice/tfwxrshttp.h"
 #include "net/tfdm.h"
+#include "testservice.h"
 #include "tfcore/tfappconfig.h"
 #include "tfcore/tfrequestlog.h"
 #include "tfcore/tfserviceconfig.h"
@@ -11,8 +11,6 @@
 #include <QProcess>
 #include <QSslKey>
 #include <QTemporaryDir>
-
-#include <atomic>
 
 namespace {
 /// Certificate and key that nobody signed, made for this run.
@@ -53,14 +51,14 @@ struct Delivery
     QByteArray data;
     QThread *thread = nullptr;
 
-    auto taker()
+    void start(const QUrl &url, QObject *receiver, const QByteArray &body = "{}")
     {
-        return [this](bool isOk, const QByteArray &bytes) {
+        TFDm::startRequest({url, body, {}, {}}, receiver, [this](bool isOk, const QByteArray &bytes) {
             ++count;
             ok = isOk;
             data = bytes;
             thread = QThread::currentThread();
-        };
+        });
     }
 };
 } // namespace
@@ -70,254 +68,207 @@ class TestTransport : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void init();
-
-    void headersComeInOrderAndOnlyWithValues();
-    void requestCarriesIdentityAndBody();
-    void emptyTokenIsNotSent();
-    void failuresGiveTheErrorText_data();
-    void failuresGiveTheErrorText();
-    void redirectIsFollowedUnlessItLeavesTls();
-    void untrustedCertificateIsAccepted();
-    void proxiesOfTheApplicationAreKept();
-    void resultArrivesQueuedOnTheReceiversThread();
-    void requestWithoutReceiverDelivers();
-    void destroyedReceiverGetsNothing();
-    void quittingEndsARequest();
-    void requestsRunSideBySideAndAreLogged();
-    void serviceAddressIsReadAnewByEachView();
-};
-
-void TestTransport::init()
-{
-    beginMessages();
-    TFAppConfig::instance()->setAppToken("secret-密");
-    TFAppConfig::instance()->setProuctId("product");
-    TFAppConfig::instance()->setUserInfo({"user-1", "A user"});
-}
-
-void TestTransport::headersComeInOrderAndOnlyWithValues()
-{
-    using Headers = TFWXRSHttp::Headers;
-    QCOMPARE(TFWXRSHttp::headers("t", "f", "l"),
-             (Headers{{"kvt-token", "t"}, {"kvt-format", "f"}, {"kvt-language", "l"}}));
-    QCOMPARE(TFWXRSHttp::headers("", "元", ""), (Headers{{"kvt-format", "元"}}));
-    QVERIFY(TFWXRSHttp::headers({}, {}, {}).isEmpty());
-}
-
-void TestTransport::requestCarriesIdentityAndBody()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "{\"data\":1}")});
-
-    const auto result =
-        TFWXRSHttp::post(server.url("/bas/ds/data"), R"({"objId":38})", TFWXRSHttp::headers("t", "", ""));
-
-    QVERIFY(result.ok);
-    QCOMPARE(result.data, QByteArray("{\"data\":1}"));
-    const QByteArray request = server.requests().value(0);
-    QVERIFY2(request.startsWith("POST /bas/ds/data HTTP/1.1\r\n"), request);
-    for (const char *line : {"Content-Type: application/json\r\n", "kvt-token: t\r\n", "userId: user-1\r\n",
-                             "prodId: product\r\n"})
-        QVERIFY2(request.contains(line), line);
-    QVERIFY2(!request.contains("kvt-format") && !request.contains("kvt-language"), request);
-    QVERIFY(request.endsWith("\r\n\r\n{\"objId\":38}"));
-}
-
-void TestTransport::emptyTokenIsNotSent()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "{}")});
-    TFAppConfig::instance()->setAppToken("");
-    Delivery delivery;
-
-    TFDm::startRequest({server.url(), "{}", {}, {}}, this, delivery.taker());
-
-    QTRY_COMPARE(delivery.count, 1);
-    QVERIFY(!server.requests().value(0).contains("kvt-token"));
-    QVERIFY(server.requests().value(0).contains("userId: user-1\r\n"));
-}
-
-void TestTransport::failuresGiveTheErrorText_data()
-{
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<QByteArray>("text");
-    testRow("HTTP 500", httpReply("500 Oh", "the body"), QByteArray("server replied: Oh"));
-    testRow("HTTP 401", httpReply("401 No", "{}"), QByteArray("Host requires authentication"));
-    testRow("closed connection", QByteArray(), QByteArray("Connection closed"));
-    testRow("body cut off", QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{\"state\""),
-            QByteArray("Connection closed"));
-}
-
-void TestTransport::failuresGiveTheErrorText()
-{
-    QFETCH(QByteArray, reply);
-    QFETCH(QByteArray, text);
-    HttpServer server;
-    server.setReplies({reply});
-
-    const auto result = TFWXRSHttp::post(server.url(), "{}", {});
-
-    QVERIFY(!result.ok);
-    QVERIFY2(result.data.contains(text), result.data);
-    QVERIFY(!result.cookies.isValid());
-    QVERIFY(debugLines().last().startsWith("download error:"));
-}
-
-void TestTransport::redirectIsFollowedUnlessItLeavesTls()
-{
-    HttpServer plain;
-    plain.setReplies({httpReply("302 Found", "", "Location: /there\r\n"), httpReply("200 OK", "arrived")});
-    const auto followed = TFWXRSHttp::post(plain.url(), "{}", {});
-    QVERIFY2(followed.ok, followed.data);
-    QCOMPARE(followed.data, QByteArray("arrived"));
-
-    HttpServer secure(selfSigned());
-    secure.setReplies(
-        {httpReply("302 Found", "stay", "Location: " + plain.url("/plain").toEncoded() + "\r\n")});
-    const auto refused = TFWXRSHttp::post(secure.url(), "{}", {});
-    QCOMPARE(plain.requests().size(), 2);
-    QVERIFY2(refused.ok, refused.data);
-}
-
-void TestTransport::untrustedCertificateIsAccepted()
-{
-    HttpServer secure(selfSigned());
-    secure.setReplies({httpReply("200 OK", "trusted")});
-    const auto result = TFWXRSHttp::post(secure.url(), "{}", {});
-    QVERIFY2(result.ok, result.data);
-    QCOMPARE(result.data, QByteArray("trusted"));
-}
-
-void TestTransport::proxiesOfTheApplicationAreKept()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "{}")});
-    const auto restore = qScopeGuard([] { QNetworkProxyFactory::setApplicationProxyFactory(nullptr); });
-
-    QNetworkProxy::setApplicationProxy(
-        {QNetworkProxy::HttpProxy, server.url().host(), quint16(server.url().port())});
-    QVERIFY(TFWXRSHttp::post(QUrl("http://no.such.host.invalid/there"), "{}", {}).ok);
-    QVERIFY2(server.requests().value(0).startsWith("POST http://no.such.host.invalid/there"),
-             server.requests().value(0));
-
-    QNetworkProxyFactory::setApplicationProxyFactory(new ProxiesOfSockets);
-    QVERIFY(TFWXRSHttp::post(server.url("/here"), "{}", {}).ok);
-    QVERIFY2(server.requests().value(1).startsWith("POST /here"), server.requests().value(1));
-}
-
-void TestTransport::resultArrivesQueuedOnTheReceiversThread()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "rows")});
-    Delivery delivery;
-    const TFDm dm(this);
-
-    dm.startRequest({server.url(), "{}", {}, {}}, delivery.taker());
-    QThreadPool::globalInstance()->waitForDone();
-    QCOMPARE(delivery.count, 0);
-
-    QTRY_COMPARE(delivery.count, 1);
-    QVERIFY(delivery.ok);
-    QCOMPARE(delivery.data, QByteArray("rows"));
-    QCOMPARE(delivery.thread, qApp->thread());
-    const QString log = debugLines().join('|');
-    QVERIFY2(log.contains("request  QUrl(") && log.contains(" end \n") && log.contains("response--- QUrl("),
-             qPrintable(log));
-    QVERIFY2(log.contains("emitResult: true dataSize: 4"), qPrintable(log));
-}
-
-void TestTransport::requestWithoutReceiverDelivers()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "rows")});
-    Delivery delivery;
-    TFDm::startRequest({server.url(), "{}", {}, {}}, nullptr, delivery.taker());
-    QTRY_COMPARE(delivery.count, 1);
-    QCOMPARE(delivery.thread, qApp->thread());
-}
-
-void TestTransport::destroyedReceiverGetsNothing()
-{
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "rows")});
-    server.hold();
-    Delivery delivery;
-    auto view = std::make_unique<QObject>();
-    const TFDm dm(view.get());
-    dm.startRequest({server.url(), "{}", {}, {}}, delivery.taker());
-    QTRY_COMPARE(server.requests().size(), 1);
-
-    view.reset();
-    server.release();
-
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(delivery.count, 0);
-}
-
-void TestTransport::quittingEndsARequest()
-{
-    // More requests than threads: some wait for their turn when the application quits.
-    const int count = 2 * QThreadPool::globalInstance()->maxThreadCount() + 1;
-    HttpServer server;
-    server.hold();
-    Delivery delivery;
-    for (int i = 0; i < count; ++i)
-        TFDm::startRequest({server.url(), "{}", {}, {}}, this, delivery.taker());
-    QTRY_COMPARE(server.requests().size(), 1);
-
-    QMetaObject::invokeMethod(qApp, "aboutToQuit");
-
-    QVERIFY(QThreadPool::globalInstance()->waitForDone(5000));
-    QTRY_COMPARE(delivery.count, count);
-    QVERIFY(!delivery.ok);
-    QCOMPARE(delivery.data, QByteArray("Operation canceled"));
-}
-
-void TestTransport::requestsRunSideBySideAndAreLogged()
-{
-    constexpr int Count = 20;
-    HttpServer server;
-    server.setReplies({httpReply("200 OK", "12345"), httpReply("500 Oh", ""), httpReply("200 OK", "12345")});
-    QList<TFRequestRecord> records;
-    connect(TFRequestLog::instance(), &TFRequestLog::finished, this,
-            [&records](const TFRequestRecord &record) { records.append(record); });
-    Delivery delivery;
-    for (int i = 0; i < Count; ++i)
-        TFDm::startRequest({server.url("/p"), QByteArray::number(i), {}, {}}, this, delivery.taker());
-
-    QTRY_COMPARE(delivery.count, Count);
-    QTRY_COMPARE(records.size(), Count);
-    TFRequestLog::instance()->disconnect(this);
-
-    QSet<QByteArray> bodies;
-    int failed = 0;
-    for (const TFRequestRecord &record : qAsConst(records)) {
-        QCOMPARE(record.path, QString("/p"));
-        QCOMPARE(record.bytes, qint64(record.ok ? 5 : 0));
-        QCOMPARE(record.error.isEmpty(), record.ok);
-        QVERIFY(record.ms >= 0 && record.time.isValid());
-        bodies.insert(record.body);
-        failed += record.ok ? 0 : 1;
+    void init()
+    {
+        beginMessages();
+        TFAppConfig::instance()->setAppToken("secret-密");
+        TFAppConfig::instance()->setProuctId("product");
+        TFAppConfig::instance()->setUserInfo({"user-1", "A user"});
+        m_service = std::make_unique<TestService>();
     }
-    QCOMPARE(bodies.size(), Count);
-    QCOMPARE(failed, 1);
-}
 
-void TestTransport::serviceAddressIsReadAnewByEachView()
-{
-    TFServiceConfig::instance()->setHttpUrl("servercfg.ini:Subject", QUrl("http://one:1"));
-    const TFDm first(this);
-    QCOMPARE(TFUc::subjectUrl(), QUrl("http://one:1/bas/subject/data"));
-    TFServiceConfig::instance()->setHttpUrl("servercfg.ini:Subject", QUrl("http://two:2"));
-    QCOMPARE(TFUc::subjectUrl(), QUrl("http://one:1/bas/subject/data"));
-    const TFDm second(this);
-    QCOMPARE(TFUc::subjectUrl(), QUrl("http://two:2/bas/subject/data"));
-    QVERIFY(TFUc::constantsRequest().body.contains(R"("auth":{"prodId":"product","userId":"user-1"})"));
-    QCOMPARE(second.owner(), this);
-}
+    void cleanup()
+    {
+        m_service.reset();
+        endMessages();
+    }
+
+    void headersComeInOrderAndOnlyWithValues()
+    {
+        using Headers = TFWXRSHttp::Headers;
+        QCOMPARE(TFWXRSHttp::headers("t", "f", "l"),
+                 (Headers{{"kvt-token", "t"}, {"kvt-format", "f"}, {"kvt-language", "l"}}));
+        QCOMPARE(TFWXRSHttp::headers("", "元", ""), (Headers{{"kvt-format", "元"}}));
+    }
+
+    void requestCarriesIdentityAndBody()
+    {
+        for (const char *token : {"secret-密", ""}) {
+            TFAppConfig::instance()->setAppToken(token);
+            m_service->forgetRequests();
+            Delivery delivery;
+            delivery.start(m_service->url().resolved(QUrl("/bas/ds/data")), this, R"({"objId":38})");
+            QTRY_COMPARE(delivery.count, 1);
+
+            const TestService::Request request = m_service->requests().value(0);
+            QCOMPARE(request.method + ' ' + request.path.toUtf8() + ' ' + request.text,
+                     QByteArray(R"(POST /bas/ds/data {"objId":38})"));
+            QCOMPARE(request.headers.value("content-type"), QByteArray("application/json"));
+            QCOMPARE(request.headers.value("userid"), QByteArray("user-1"));
+            QCOMPARE(request.headers.value("prodid"), QByteArray("product"));
+            QCOMPARE(request.headers.value("kvt-token"), QByteArray(token));
+            QCOMPARE(request.headers.contains("kvt-token"), qstrlen(token) > 0);
+            QVERIFY(!request.headers.contains("kvt-format") && !request.headers.contains("kvt-language"));
+        }
+    }
+
+    void failuresGiveTheErrorText()
+    {
+        using Answer = TestService::Answer;
+        const QList<QPair<Answer, QByteArray>> failures{{Answer{"the body", 500}, "server replied: Answer"},
+                                                        {Answer{"", 200, 0, true}, "Connection closed"}};
+        for (const auto &failure : failures) {
+            m_service->setRule([&failure](const TestService::Request &) { return failure.first; });
+
+            const auto result = TFWXRSHttp::post(m_service->url(), "{}", {});
+
+            QVERIFY(!result.ok);
+            QVERIFY2(result.data.contains(failure.second), result.data);
+            QVERIFY(!result.cookies.isValid());
+            QVERIFY(debugLines().last().startsWith("download error:"));
+        }
+    }
+
+    void redirectIsFollowedUnlessItLeavesTls()
+    {
+        // Nobody has signed the certificate, and that does not matter.
+        TestService secure(selfSigned());
+        const QByteArray away = "Location: " + m_service->url().resolved(QUrl("/plain")).toEncoded();
+        for (TestService *service : {m_service.get(), &secure}) {
+            service->setRule([away](const TestService::Request &request) {
+                TestService::Answer answer{"arrived"};
+                if (request.path != "/there") {
+                    answer.status = 302;
+                    answer.headers.append(request.path == "/away" ? away : "Location: /there");
+                }
+                return answer;
+            });
+            const auto followed = TFWXRSHttp::post(service->url(), "{}", {});
+            QVERIFY2(followed.ok, followed.data);
+            QCOMPARE(followed.data, QByteArray("arrived"));
+        }
+
+        const auto refused = TFWXRSHttp::post(secure.url().resolved(QUrl("/away")), "{}", {});
+        QVERIFY2(refused.ok, refused.data);
+        QCOMPARE(m_service->requests().size(), 2);
+    }
+
+    void proxiesOfTheApplicationAreKept()
+    {
+        const auto restore = qScopeGuard([] { QNetworkProxyFactory::setApplicationProxyFactory(nullptr); });
+
+        QNetworkProxy::setApplicationProxy(
+            {QNetworkProxy::HttpProxy, m_service->url().host(), quint16(m_service->url().port())});
+        QVERIFY(TFWXRSHttp::post(QUrl("http://no.such.host.invalid/there"), "{}", {}).ok);
+        QCOMPARE(m_service->requests().value(0).path, QString("http://no.such.host.invalid/there"));
+
+        QNetworkProxyFactory::setApplicationProxyFactory(new ProxiesOfSockets);
+        QVERIFY(TFWXRSHttp::post(m_service->url().resolved(QUrl("/here")), "{}", {}).ok);
+        QCOMPARE(m_service->requests().value(1).path, QString("/here"));
+    }
+
+    void resultArrivesOnTheThreadThatAsked()
+    {
+        for (QObject *receiver : {static_cast<QObject *>(this), static_cast<QObject *>(nullptr)}) {
+            Delivery delivery;
+            delivery.start(m_service->url(), receiver);
+
+            QTRY_COMPARE(delivery.count, 1);
+            QVERIFY(delivery.ok);
+            QCOMPARE(delivery.data, TestService::envelope(QJsonValue()));
+            QCOMPARE(delivery.thread, qApp->thread());
+        }
+        const QString log = debugLines().join('|');
+        QVERIFY2(log.contains("request  QUrl(") && log.contains(" end \n") &&
+                     log.contains("response--- QUrl("),
+                 qPrintable(log));
+        QVERIFY2(log.contains("emitResult: true dataSize: "), qPrintable(log));
+    }
+
+    void destroyedReceiverGetsNothing()
+    {
+        m_service->setRule([](const TestService::Request &) {
+            return TestService::Answer{"", 200, 0, false, true};
+        });
+        Delivery delivery;
+        auto view = std::make_unique<QObject>();
+        delivery.start(m_service->url(), view.get());
+        QTRY_COMPARE(m_service->heldCount(), 1);
+
+        view.reset();
+        m_service->release();
+
+        QTRY_COMPARE(QThreadPool::globalInstance()->activeThreadCount(), 0);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(delivery.count, 0);
+    }
+
+    void quittingEndsARequest()
+    {
+        // More requests than threads: some wait for their turn when the application quits.
+        const int threads = QThreadPool::globalInstance()->maxThreadCount();
+        const int count = 2 * threads + 1;
+        m_service->setRule([](const TestService::Request &) {
+            return TestService::Answer{"", 200, 0, false, true};
+        });
+        Delivery delivery;
+        for (int i = 0; i < count; ++i)
+            delivery.start(m_service->url(), this);
+        QTRY_COMPARE(m_service->heldCount(), threads);
+
+        QMetaObject::invokeMethod(qApp, "aboutToQuit");
+
+        QVERIFY(QThreadPool::globalInstance()->waitForDone(5000));
+        QTRY_COMPARE(delivery.count, count);
+        QVERIFY(!delivery.ok);
+        QCOMPARE(delivery.data, QByteArray("Operation canceled"));
+    }
+
+    void requestsRunSideBySideAndAreLogged()
+    {
+        constexpr int Count = 20;
+        m_service->setRule([](const TestService::Request &request) {
+            return TestService::Answer{"12345", request.text == "7" ? 500 : 200};
+        });
+        QList<TFRequestRecord> records;
+        connect(TFRequestLog::instance(), &TFRequestLog::finished, this,
+                [&records](const TFRequestRecord &record) { records.append(record); });
+        Delivery delivery;
+        for (int i = 0; i < Count; ++i)
+            delivery.start(m_service->url().resolved(QUrl("/p")), this, QByteArray::number(i));
+
+        QTRY_COMPARE(delivery.count, Count);
+        QTRY_COMPARE(records.size(), Count);
+        TFRequestLog::instance()->disconnect(this);
+
+        QSet<QByteArray> bodies;
+        for (const TFRequestRecord &record : qAsConst(records)) {
+            QCOMPARE(record.path, QString("/p"));
+            QCOMPARE(record.ok, record.body != "7");
+            QCOMPARE(record.bytes, qint64(record.ok ? 5 : 0));
+            QCOMPARE(record.error.isEmpty(), record.ok);
+            QVERIFY(record.ms >= 0 && record.time.isValid());
+            bodies.insert(record.body);
+        }
+        QCOMPARE(bodies.size(), Count);
+    }
+
+    void serviceAddressIsReadAnewByEachView()
+    {
+        TFServiceConfig::instance()->setHttpUrl("servercfg.ini:Subject", QUrl("http://one:1"));
+        const TFDm first(this);
+        TFServiceConfig::instance()->setHttpUrl("servercfg.ini:Subject", QUrl("http://two:2"));
+        QCOMPARE(TFUc::subjectUrl(), QUrl("http://one:1/bas/subject/data"));
+        const TFDm second(this);
+        QCOMPARE(TFUc::subjectUrl(), QUrl("http://two:2/bas/subject/data"));
+        QVERIFY(TFUc::constantsRequest().body.contains(R"("auth":{"prodId":"product","userId":"user-1"})"));
+        QCOMPARE(second.owner(), this);
+    }
+
+private:
+    std::unique_ptr<TestService> m_service;
+};
 
 SUBJECT_TEST_MAIN(TestTransport)
 #include "tst_transport.moc"

@@ -2,14 +2,47 @@
 
 #include <QHostAddress>
 #include <QJsonDocument>
+#include <QSslConfiguration>
+#include <QSslSocket>
 #include <QTcpServer>
-#include <QTcpSocket>
 #include <QThreadPool>
 #include <QTimer>
 
+namespace {
+/// Its connections are encrypted where it has a certificate.
+class Listener : public QTcpServer
+{
+public:
+    Listener(const QSslConfiguration &tls, QObject *parent)
+        : QTcpServer(parent)
+        , m_tls(tls)
+    {}
+
+protected:
+    void incomingConnection(qintptr descriptor) override
+    {
+        auto *socket = new QSslSocket(this);
+        socket->setSocketDescriptor(descriptor);
+        if (!m_tls.isNull()) {
+            socket->setSslConfiguration(m_tls);
+            socket->startServerEncryption();
+        }
+        addPendingConnection(socket);
+    }
+
+private:
+    const QSslConfiguration m_tls;
+};
+} // namespace
+
 TestService::TestService(QObject *parent)
+    : TestService(QSslConfiguration(), parent)
+{}
+
+TestService::TestService(const QSslConfiguration &tls, QObject *parent)
     : QObject(parent)
-    , m_server(new QTcpServer(this))
+    , m_server(new Listener(tls, this))
+    , m_scheme(tls.isNull() ? "http" : "https")
     , m_rule([](const Request &) { return Answer{envelope(QJsonValue())}; })
 {
     connect(m_server, &QTcpServer::newConnection, this, &TestService::accept);
@@ -30,7 +63,7 @@ TestService::~TestService()
 
 QUrl TestService::url() const
 {
-    return QUrl(QStringLiteral("http://127.0.0.1:%1").arg(m_server->serverPort()));
+    return QUrl(QStringLiteral("%1://127.0.0.1:%2").arg(m_scheme).arg(m_server->serverPort()));
 }
 
 QByteArray TestService::envelope(const QJsonValue &data)
@@ -59,7 +92,9 @@ void TestService::read(QTcpSocket *socket)
         return;
     QList<QByteArray> lines = bytes.left(headEnd).split('\n');
     Request request;
-    request.path = QString::fromUtf8(lines.takeFirst().split(' ').value(1));
+    const QList<QByteArray> words = lines.takeFirst().split(' ');
+    request.method = words.value(0);
+    request.path = QString::fromUtf8(words.value(1));
     for (const QByteArray &line : qAsConst(lines)) {
         const int colon = line.indexOf(':');
         request.headers.insert(line.left(colon).trimmed().toLower(), line.mid(colon + 1).trimmed());

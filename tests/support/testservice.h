@@ -12,6 +12,7 @@
 
 #include <functional>
 
+class QSslConfiguration;
 class QTcpServer;
 class QTcpSocket;
 
@@ -24,6 +25,7 @@ class TestService : public QObject
 public:
     struct Request
     {
+        QByteArray method;
         QString path;
         QHash<QByteArray, QByteArray> headers; ///< names in lower case
         QByteArray text;
@@ -45,6 +47,8 @@ public:
     /// Listens at once. Requests that still wait when the service goes end with an error, and are waited for.
     /// Answers every request with an envelope around null until a rule is set.
     explicit TestService(QObject *parent = nullptr);
+    /// Speaks TLS, with the certificate and key of \a tls.
+    explicit TestService(const QSslConfiguration &tls, QObject *parent = nullptr);
     ~TestService() override;
 
     QUrl url() const;
@@ -74,6 +78,7 @@ private:
     void answer(QTcpSocket *socket, const Answer &answer);
 
     QTcpServer *m_server;
+    QString m_scheme;
     QHash<QTcpSocket *, QByteArray> m_pending;
     Rule m_rule;
     QList<Held> m_held;
