@@ -86,7 +86,7 @@ private slots:
         QVERIFY2(!window().notice().isVisible(), qPrintable(window().notice().text()));
     }
 
-    void pageOpensAnotherByTheWindowsName()
+    void pagesOpenByTheWindowsNameAndCloseWithRequestsOut()
     {
         QTRY_COMPARE_WITH_TIMEOUT(tabs().count(), 1, PatienceMs);
         QString url = "view://subjectpage?objvwid=260&title=second";
@@ -94,41 +94,32 @@ private slots:
             InvokerBase().bind("QString", &url).invoke(TFCore::instance()->mainWindow(), "openStringUrl"));
         QCOMPARE(tabs().count(), 2);
         QCOMPARE(tabs().current()->title(), QString("second"));
-    }
-
-    void closedTabMayHaveRequestsOut()
-    {
-        QTRY_COMPARE_WITH_TIMEOUT(tabs().count(), 1, PatienceMs);
-        tabs().closeCurrent();
+        for (int i = 0; i < 2; ++i)
+            tabs().closeCurrent();
         QCOMPARE(tabs().count(), 0);
+
         window().actions().newTab->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(rowsOn(tabs().current()) > 50, PatienceMs);
     }
 
-    void skinReachesThePageAndIsKept()
+    void skinAndLanguageChangeAtOnceAndAreKept()
     {
         QTRY_COMPARE_WITH_TIMEOUT(tabs().count(), 1, PatienceMs);
         const QWidget *page = tabs().current()->findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
         const QString before = page->styleSheet();
+        const auto firstMenu = [this] { return window().menuBar()->actions().first()->text(); };
+        QCOMPARE(firstMenu(), QString("页面(&P)"));
 
         trigger(window().actions().skins, "black");
+        trigger(window().actions().languages, "en");
 
         QVERIFY(page->styleSheet() != before);
         QVERIFY(qApp->palette().color(QPalette::Window).lightness() < 40);
+        QTRY_COMPARE(firstMenu(), QString("&Page"));
         stop();
         start();
         QCOMPARE(TFCore::instance()->getCurrentSkinId(), QString("black"));
-    }
-
-    void languageChangesTheMenusAtOnceAndIsKept()
-    {
-        const QAction *first = window().menuBar()->actions().first();
-        QCOMPARE(first->text(), QString("页面(&P)"));
-        trigger(window().actions().languages, "en");
-        QTRY_COMPARE(first->text(), QString("&Page"));
-        stop();
-        start();
-        QCOMPARE(window().menuBar()->actions().first()->text(), QString("&Page"));
+        QCOMPARE(firstMenu(), QString("&Page"));
     }
 
     void serviceThatCannotStartIsALineInTheWindow()

@@ -4,21 +4,11 @@
 
 #include <QImage>
 #include <QProcess>
-#include <QTcpSocket>
 #include <QTemporaryDir>
-
-#include <csignal>
 
 namespace {
 const char Program[] = PROJECT_BINARY_DIR "/bin/subject-terminal";
 constexpr int PatienceMs = 60000;
-
-bool listens(quint16 port)
-{
-    QTcpSocket socket;
-    socket.connectToHost("127.0.0.1", port);
-    return socket.waitForConnected(1000);
-}
 } // namespace
 
 /// The program as a user starts it.
@@ -38,15 +28,6 @@ private slots:
         QVERIFY(program.waitForFinished(PatienceMs));
         QCOMPARE(program.exitCode(), 0);
         QVERIFY(program.readAllStandardOutput().contains("--screenshot"));
-    }
-
-    void wrongOptionIsNamedAndNothingStarts()
-    {
-        QProcess program;
-        program.start(Program, {"--colour"});
-        QVERIFY(program.waitForFinished(PatienceMs));
-        QCOMPARE(program.exitCode(), 2);
-        QVERIFY(program.readAllStandardError().contains("colour"));
     }
 
     void screenshotShowsTheHomePage()
@@ -79,37 +60,12 @@ private slots:
         QVERIFY(program.readAllStandardError().contains("/no/such/folder/a.png"));
     }
 
-    void serviceEndsWhenTheTerminalIsKilled()
-    {
-        if (!DemoData::isThere())
-            QSKIP("the demonstration database is not built: tools/demo-data makes it");
-        QTemporaryDir folder;
-        QProcess program;
-        start(&program, folder.path(), {"--verbose"});
-        static const QRegularExpression pattern("listening on http://127\\.0\\.0\\.1:(\\d+)");
-        QByteArray output;
-        QRegularExpressionMatch match;
-        while (!match.hasMatch() && program.waitForReadyRead(PatienceMs)) {
-            output += program.readAllStandardError();
-            match = pattern.match(QString::fromUtf8(output));
-        }
-        QVERIFY2(match.hasMatch(), output);
-        const quint16 port = quint16(match.captured(1).toUInt());
-        QVERIFY(listens(port));
-
-        ::kill(pid_t(program.processId()), SIGKILL);
-
-        QVERIFY(program.waitForFinished());
-        QTRY_VERIFY(!listens(port));
-    }
-
 private:
     static void start(QProcess *program, const QString &config, const QStringList &arguments)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("XDG_CONFIG_HOME", config);
         program->setProcessEnvironment(environment);
-        program->setReadChannel(QProcess::StandardError);
         program->start(Program,
                        QStringList{"--db", DemoData::database(), "--views", DemoData::views()} + arguments);
     }
