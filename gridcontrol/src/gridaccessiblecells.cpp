@@ -17,8 +17,19 @@ QRect onScreen(const QWidget *widget, const QRect &rect)
 }
 } // namespace
 
-AccessibleCell::AccessibleCell(GridArea *area, int line, int slot)
+AccessiblePart::AccessiblePart(GridArea *area)
     : m_area(area)
+{}
+
+AccessiblePart::~AccessiblePart() = default;
+
+QAccessibleInterface *AccessiblePart::parent() const
+{
+    return QAccessible::queryAccessibleInterface(m_area);
+}
+
+AccessibleCell::AccessibleCell(GridArea *area, int line, int slot)
+    : AccessiblePart(area)
     , m_line(line)
     , m_slot(slot)
 {}
@@ -89,11 +100,6 @@ QString AccessibleCell::text(QAccessible::Text kind) const
     return group && m_slot == 0 ? QStringLiteral("%1 (%2)").arg(text, QString::number(group->count())) : text;
 }
 
-QAccessibleInterface *AccessibleCell::parent() const
-{
-    return QAccessible::queryAccessibleInterface(m_area);
-}
-
 bool AccessibleCell::isSelected() const
 {
     return isValid() && m_area->selectionModel()->isSelected(
@@ -127,7 +133,7 @@ void AccessibleCell::doAction(const QString &action)
 }
 
 AccessibleCaption::AccessibleCaption(GridArea *area, GridColumnBase *item, int firstSlot)
-    : m_area(area)
+    : AccessiblePart(area)
     , m_item(item)
     , m_firstSlot(firstSlot)
 {}
@@ -182,11 +188,6 @@ void AccessibleCaption::doAction(const QString &action)
 {
     if (isValid() && column() && action == QAccessibleActionInterface::pressAction())
         GridHeader::sortNext(column());
-}
-
-QAccessibleInterface *AccessibleCaption::parent() const
-{
-    return QAccessible::queryAccessibleInterface(m_area);
 }
 
 } // namespace Qtitan

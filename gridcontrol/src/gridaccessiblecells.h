@@ -9,8 +9,27 @@ class GridArea;
 class GridColumn;
 class GridColumnBase;
 
+/// A part of the grid to a screen reader: no object of its own, nothing below it, nothing to be typed.
+class AccessiblePart : public QAccessibleInterface
+{
+public:
+    explicit AccessiblePart(GridArea *area);
+    ~AccessiblePart() override;
+
+    QObject *object() const override { return nullptr; }
+    QAccessibleInterface *parent() const override;
+    void setText(QAccessible::Text, const QString &) override {}
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+protected:
+    QPointer<GridArea> m_area;
+};
+
 /// A cell to a screen reader, known by its place on the screen.
-class AccessibleCell : public QAccessibleInterface,
+class AccessibleCell : public AccessiblePart,
                        public QAccessibleTableCellInterface,
                        public QAccessibleActionInterface
 {
@@ -22,17 +41,10 @@ public:
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     bool isValid() const override;
-    QObject *object() const override { return nullptr; }
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
     QRect rect() const override;
     QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text, const QString &) override {}
-    QAccessibleInterface *parent() const override;
-    QAccessibleInterface *child(int) const override { return nullptr; }
-    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
 
     bool isSelected() const override;
     QList<QAccessibleInterface *> columnHeaderCells() const override;
@@ -48,7 +60,6 @@ public:
     QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
-    QPointer<GridArea> m_area;
     int m_line;
     int m_slot;
 };
@@ -56,7 +67,7 @@ private:
 /// A caption of the header to a screen reader: a column's, or a band's over one run of columns.
 ///
 /// Pressing that of a column sorts as a click does; its description tells how the column sorts the rows now.
-class AccessibleCaption : public QAccessibleInterface, public QAccessibleActionInterface
+class AccessibleCaption : public AccessiblePart, public QAccessibleActionInterface
 {
 public:
     AccessibleCaption(GridArea *area, GridColumnBase *item, int firstSlot);
@@ -67,24 +78,16 @@ public:
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     bool isValid() const override { return m_area && m_item; }
-    QObject *object() const override { return nullptr; }
     QAccessible::Role role() const override { return QAccessible::ColumnHeader; }
     QAccessible::State state() const override;
     QRect rect() const override;
     QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text, const QString &) override {}
-    QAccessibleInterface *parent() const override;
-    QAccessibleInterface *child(int) const override { return nullptr; }
-    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
 
     QStringList actionNames() const override;
     void doAction(const QString &action) override;
     QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
 private:
-    QPointer<GridArea> m_area;
     QPointer<GridColumnBase> m_item;
     int m_firstSlot;
 };
