@@ -5,12 +5,11 @@
 
 namespace Qtitan {
 
-void FigureFont::setFont(const QFont &font)
+void FigureFont::measure()
 {
-    m_advances.fill(0);
-    m_run = QGlyphRun();
+    m_isMeasured = true;
     for (const QChar letter : QStringLiteral("0123456789.,-+%/:()")) {
-        QTextLayout layout(QString(letter), font);
+        QTextLayout layout(QString(letter), m_font);
         layout.beginLayout();
         const QTextLine line = layout.createLine();
         layout.endLayout();
@@ -27,8 +26,11 @@ void FigureFont::setFont(const QFont &font)
     }
 }
 
-qreal FigureFont::width(const QString &text) const
+qreal FigureFont::width(const QString &text)
 {
+    // Not before it is asked for: grids get their font after they are made.
+    if (!m_isMeasured)
+        measure();
     qreal width = 0;
     for (const QChar letter : text) {
         if (!holds(letter))

@@ -21,10 +21,12 @@ namespace Qtitan {
 class FigureFont
 {
 public:
-    void setFont(const QFont &font);
+    explicit FigureFont(const QFont &font)
+        : m_font(font)
+    {}
 
     /// Width in pixels of \a text; -1 for one with other characters, or without any.
-    qreal width(const QString &text) const;
+    qreal width(const QString &text);
 
     /// Draws a text that has a width() with its top left corner at \a place, in the painter's pen.
     void draw(QPainter &painter, const QPointF &place, const QString &text);
@@ -37,6 +39,10 @@ private:
         return letter.unicode() < characters && m_advances[letter.unicode()] > 0;
     }
 
+    void measure();
+
+    QFont m_font;
+    bool m_isMeasured = false;
     QGlyphRun m_run;
     std::array<quint32, characters> m_glyphs{};
     std::array<qreal, characters> m_advances{};

@@ -81,9 +81,9 @@ QFont GridArea::zoomed(QFont font) const
 void GridArea::metricsChanged()
 {
     // Not the own font: a style sheet on the grid does not hand its font down.
-    m_texts.setFont(zoomed(m_view->grid()->font()));
+    m_texts = TextCache::ofFont(zoomed(m_view->grid()->font()));
     const qreal zoom = options().zoomFactor();
-    m_lineHeight = qMax(qRound(rowHeight * zoom), m_texts.textHeight() + 4);
+    m_lineHeight = qMax(qRound(rowHeight * zoom), m_texts->textHeight() + 4);
     m_levelHeight = qMax(qRound(captionHeight * zoom), QFontMetrics(m_header->captionFont()).height() + 6);
     updateGeometries();
     viewport()->update();
@@ -214,7 +214,7 @@ CellPlace GridArea::placeAt(const QPoint &point) const
             place.button = i;
     if (column.isLink() && place.button < 0) {
         const QModelIndex source = m_rows->sourceIndex(place.line, column.index());
-        place.link = GridPainter::drawnTextRect(textRect(cell, column), m_texts.font(), text,
+        place.link = GridPainter::drawnTextRect(textRect(cell, column), m_texts->font(), text,
                                                 alignmentOfCell(source, column, source.data()))
                          .contains(point);
     }

@@ -57,7 +57,7 @@ public:
         return m_captions;
     }
     const GridColors &colors() const { return m_colors; }
-    TextCache &texts() { return m_texts; }
+    TextCache &texts() { return *m_texts; }
     const CellPlace &hover() const { return m_hover; }
     const QString &markedText() const { return m_marked; }
 
@@ -167,7 +167,7 @@ private:
     mutable HeaderLayout m_captions;
     mutable bool m_columnsDirty = false;
     GridColors m_colors;
-    TextCache m_texts;
+    std::shared_ptr<TextCache> m_texts;
     CellPlace m_hover;
     CellPlace m_pressed;
     QPersistentModelIndex m_anchor;

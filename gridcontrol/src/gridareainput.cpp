@@ -213,7 +213,7 @@ bool GridArea::showToolTip(const QPoint &point, const QPoint &global)
         tip = m_rows->sourceIndex(place.line, column.index()).data(Qt::ToolTipRole).toString();
     if (tip.isEmpty()) {
         const QString text = textOf(place.line, place.slot);
-        if (m_texts.whole(text).width > textRect(cell, column).width())
+        if (m_texts->whole(text).width > textRect(cell, column).width())
             tip = text;
     }
     if (tip.isEmpty())

@@ -59,8 +59,10 @@ protected:
 private:
     enum Drag { NoDrag, Pressed, Resizing, Moving };
     static constexpr int margin = 6;
+    static constexpr int edgeReach = 4; ///< pixels beside an edge that take hold of it
     static constexpr int arrowWidth = 12;
 
+    TextCache &texts();
     int stripHeight() const;
     int cellAt(const QPoint &point) const;
     bool showToolTip(const QPoint &point, const QPoint &global);
@@ -75,7 +77,7 @@ private:
     void finishMove();
 
     GridArea *m_area;
-    TextCache m_texts;
+    std::shared_ptr<TextCache> m_texts; ///< of the captions; null until texts() is called
     Drag m_drag = NoDrag;
     QPoint m_pressedAt;
     GridColumnBase *m_dragged = nullptr;

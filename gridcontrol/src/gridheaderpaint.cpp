@@ -12,9 +12,8 @@ namespace Qtitan {
 
 void GridHeader::paintEvent(QPaintEvent *event)
 {
-    m_texts.setFont(captionFont());
     QPainter painter(this);
-    painter.setFont(m_texts.font());
+    painter.setFont(texts().font());
     painter.fillRect(event->rect(), m_area->colors().headerBackground);
     if (stripHeight())
         paintStrip(painter);
@@ -77,7 +76,7 @@ void GridHeader::paintCell(QPainter &painter, const HeaderCell &cell, const QRec
             room = QRect(QPoint(left, room.top()), QPoint(right, room.bottom()));
     }
     const bool sorted = column && column == m_area->view()->sortColumn();
-    const TextCache::Entry entry = m_texts.fitting(
+    const TextCache::Entry entry = m_texts->fitting(
         cell.item->caption(), room.width() - (sorted ? arrowWidth : 0), unitOf(cell.item->caption()));
     const Qt::Alignment alignment = column ? column->cellAlignment() : Qt::Alignment(Qt::AlignHCenter);
     const int whole = entry.width + (sorted ? arrowWidth : 0);
@@ -87,7 +86,7 @@ void GridHeader::paintCell(QPainter &painter, const HeaderCell &cell, const QRec
     else if (alignment & Qt::AlignHCenter)
         x = qMax(room.left(), room.left() + (room.width() - whole) / 2);
     painter.setPen(m_area->colors().headerText);
-    m_texts.draw(painter, x, rect.top() + (rect.height() - m_texts.textHeight()) / 2, entry);
+    m_texts->draw(painter, x, rect.top() + (rect.height() - m_texts->textHeight()) / 2, entry);
     if (sorted)
         paintArrow(painter, QRectF(x + entry.width + 4, rect.center().y() - 2, 8, 5),
                    m_area->view()->sortState() == SortUp);

@@ -29,30 +29,23 @@ Value TextCache::Generations<Key, Value>::value(const Key &key, Make make)
     return found;
 }
 
-template <typename Key, typename Value> void TextCache::Generations<Key, Value>::clear()
-{
-    m_young.clear();
-    m_old.clear();
-}
-
 TextCache::TextCache(const QFont &font)
     : m_font(font)
     , m_metrics(font)
     , m_height(qCeil(m_metrics.height()))
-{
-    m_figures.setFont(font);
-}
+    , m_figures(font)
+{}
 
-void TextCache::setFont(const QFont &font)
+std::shared_ptr<TextCache> TextCache::ofFont(const QFont &font)
 {
-    if (font == m_font)
-        return;
-    m_font = font;
-    m_metrics = QFontMetricsF(font);
-    m_height = qCeil(m_metrics.height());
-    m_figures.setFont(font);
-    m_whole.clear();
-    m_elided.clear();
+    static QHash<QFont, std::weak_ptr<TextCache>> caches;
+    if (std::shared_ptr<TextCache> shared = caches.value(font).lock())
+        return shared;
+    for (auto cache = caches.begin(); cache != caches.end();)
+        cache = cache->expired() ? caches.erase(cache) : std::next(cache);
+    const auto made = std::make_shared<TextCache>(font);
+    caches.insert(font, made);
+    return made;
 }
 
 TextCache::Entry TextCache::whole(const QString &text)

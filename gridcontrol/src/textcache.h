@@ -7,9 +7,11 @@
 #include <QHash>
 #include <QStaticText>
 
+#include <memory>
+
 namespace Qtitan {
 
-/// Texts laid out once for one font; figures are not laid out at all.
+/// Texts laid out once for one font; figures are not laid out at all. Grids of one font share them.
 ///
 /// Holds a bounded number of texts: when the newer half is full, what was not drawn since the last time falls
 /// out.
@@ -24,10 +26,11 @@ public:
         bool elided = false;
     };
 
-    explicit TextCache(const QFont &font = QFont());
+    explicit TextCache(const QFont &font);
 
-    /// Forgets everything when the font is another one.
-    void setFont(const QFont &font);
+    /// The cache of \a font; it goes with the last who holds it.
+    static std::shared_ptr<TextCache> ofFont(const QFont &font);
+
     const QFont &font() const { return m_font; }
     int textHeight() const { return m_height; }
 
@@ -46,7 +49,6 @@ private:
     {
     public:
         template <typename Make> Value value(const Key &key, Make make);
-        void clear();
 
     private:
         QHash<Key, Value> m_young;
