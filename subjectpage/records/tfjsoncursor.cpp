@@ -88,8 +88,10 @@ bool TFJsonCursor::parse(const QByteArray &json, QVariant &value)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson('[' + json + ']', &error);
-    if (error.error != QJsonParseError::NoError)
+    const QJsonArray values = document.array();
+    // Nothing where a value should stand makes an empty array.
+    if (error.error != QJsonParseError::NoError || values.size() != 1)
         return false;
-    value = document.array().at(0).toVariant();
+    value = values.at(0).toVariant();
     return true;
 }

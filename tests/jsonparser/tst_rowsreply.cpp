@@ -11,149 +11,126 @@
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
+/// The toolkit's parser leaks the first value of a key that comes twice.
+using RepeatsMayLeak = __lsan::ScopedDisabler;
+#else
+struct RepeatsMayLeak
+{
+    RepeatsMayLeak() {}
+};
 #endif
 
 namespace {
-/// Writes replies as no service should: every kind of value, spaces, odd keys, and now and then a fault.
+/// The pieces of \a text between spaces; "%" and two digits stand for any byte.
+QByteArrayList pieces(const char *text)
+{
+    QByteArrayList pieces = QByteArray(text).split(' ');
+    for (QByteArray &piece : pieces)
+        piece = QByteArray::fromPercentEncoding(piece);
+    return pieces;
+}
+
+const QByteArrayList Keys = pieces(R"(A SECU_ID 元 b\u0041 bB  z\n 😀)");
+const QByteArrayList Values =
+    pieces(R"(null true false 0 -0 -7 1.0 -2.50 9223372036854775808 1e3 2.5E-7 "" "abc" "股票" "1.5")"
+           R"( "],{" "\n\"\\\/" "\u4e2d\ud83d\ude00" "\ud800" "\u0000" "%7f" "%ef%bb%bf" "%ef%bf%bf" "\x")"
+           R"( "é\u00e9" "😀" [%201%20,"x",{"k"%20:[2.5,null]}] {"k":[true],"A":{}} [%20] {})");
+const QByteArrayList Faults = pieces(
+    R"( nul True 1e400 1e-400 - 01 +1 .5 1. 1e NaN -Infinity 0x10 1%202 1"2 , : ] { [1} [1%202] {"k"} {1:2})"
+    R"( " "\" "%ff" "%ed%a0%80" "%c0%80" "%e4%b8" "%f4%90%80%80" "%09" "\u12" "\u+123" "%00" "\中")");
+
+/// Writes replies as no service should: every kind of value, spaces and odd keys; an odd one also has keys
+/// that come twice, and faults.
 class Writer
 {
 public:
-    Writer(unsigned seed, bool isFaulty, bool hasRepeats)
+    Writer(unsigned seed, bool isOdd)
         : m_random(seed)
-        , m_isFaulty(isFaulty)
-        , m_hasRepeats(hasRepeats)
+        , m_isOdd(isOdd)
     {}
 
     QByteArray reply()
     {
-        QByteArrayList members{member("state", "1"), member("msg", "\"\""), member("extend", value(1)),
-                               member(odd() ? "d\\u0061ta" : "data", payload())};
+        QByteArrayList members{member("state", "1"), member("msg", "\"\""), member("extend", value()),
+                               member(seldom() ? "d\\u0061ta" : "data", payload())};
         if (repeats())
-            members.append(member("data", odd() ? payload() : "null"));
-        std::shuffle(members.begin(), members.end(), m_random);
-        return space() + '{' + members.join(',') + '}' + space() + (fault() ? "x" : "");
+            members.append(member("data", seldom() ? payload() : "null"));
+        const QByteArray reply = space() + object(members) + space();
+        return m_isOdd && pick(2) ? edited(reply) : reply;
     }
 
 private:
     unsigned pick(unsigned count) { return m_random() % count; }
-    bool odd() { return pick(12) == 0; }
-    bool repeats() { return m_hasRepeats && odd(); }
-    bool fault() { return m_isFaulty && pick(40) == 0; }
-    QByteArray space() { return pick(6) ? "" : QByteArray(" \t\r\n").mid(int(pick(4)), 2); }
+    bool seldom() { return pick(12) == 0; }
+    bool repeats() { return m_isOdd && seldom(); }
     QByteArray one(const QByteArrayList &choices) { return choices.at(int(pick(unsigned(choices.size())))); }
+    QByteArray space() { return pick(6) ? "" : QByteArray(" \t\r\n").mid(int(pick(4)), 2); }
     QByteArray member(const QByteArray &key, const QByteArray &value)
     {
         return space() + '"' + key + '"' + space() + ':' + space() + value + space();
     }
-
+    QByteArray object(QByteArrayList members)
+    {
+        std::shuffle(members.begin(), members.end(), m_random);
+        return '{' + members.join(',') + '}';
+    }
     QByteArray payload()
     {
-        QByteArrayList members{member("Summary", value(1)), member("Data", odd() ? value(2) : rows())};
+        QByteArrayList members{member("Summary", value()), member("Data", seldom() ? value() : rows())};
         if (repeats())
             members.append(member("Data", rows()));
-        std::shuffle(members.begin(), members.end(), m_random);
-        return odd() ? value(1) : '{' + members.join(',') + '}';
+        return seldom() ? value() : object(members);
     }
     QByteArray rows()
     {
         QByteArrayList rows;
         for (unsigned i = pick(8); i > 0; --i)
-            rows.append(space() + (pick(80) ? object(0) : value(1)) + space());
-        return '[' + rows.join(',') + (fault() ? "," : "") + ']';
+            rows.append(space() + (pick(80) ? row() : value()) + space());
+        return '[' + rows.join(',') + ']';
     }
-    QByteArray object(int depth)
+    QByteArray row()
     {
         QByteArrayList members;
-        for (const char *key :
-             {"A", "SECU_ID", "元", "b\\u0041", m_hasRepeats ? "bA" : "bB", "", "z\\n", "\xf0\x9f\x98\x80"}) {
+        for (const QByteArray &key : Keys) {
             if (pick(7))
-                members.append(member(key, value(depth)));
+                members.append(member(key, value()));
         }
         if (repeats())
-            members.append(member("A", value(depth)));
-        return '{' + members.join(fault() ? ";" : ",") + '}';
+            members.append(member(one({"A", "bA"}), value()));
+        return pick(3) ? '{' + members.join(',') + '}' : object(members);
     }
-    QByteArray value(int depth)
+    QByteArray value()
     {
-        switch (pick(depth > 2 ? 5 : 7)) {
+        if (m_isOdd && pick(40) == 0)
+            return one(Faults);
+        return pick(3) ? one(Values) : decimal();
+    }
+    QByteArray decimal()
+    {
+        const quint64 digits = (quint64(m_random()) << 32 | m_random()) >> pick(64);
+        QByteArray decimal =
+            QByteArray::number(digits) + '.' + QByteArray::number(quint64(m_random() >> pick(32)));
+        if (seldom())
+            decimal += one({"e", "E"}) + one({"", "+", "-"}) + QByteArray::number(pick(30));
+        return (pick(3) ? "" : "-") + (pick(2) ? decimal : QByteArray::number(digits));
+    }
+    QByteArray edited(QByteArray reply)
+    {
+        const int place = int(pick(unsigned(reply.size())));
+        switch (pick(4)) {
         case 0:
-            return one({"null", "true", "false", fault() ? "nul" : "null", fault() ? "True" : "true"});
+            return reply.left(place);
         case 1:
+            return reply.remove(place, 1 + int(pick(4)));
         case 2:
-            return number();
-        case 3:
-        case 4:
-            return text();
-        case 5:
-            return object(depth + 1);
+            return reply.insert(place, one(Faults));
         default:
-            return '[' + value(depth + 1) + (fault() ? "" : ",") + value(depth + 1) + (fault() ? "}" : "]");
+            return reply.replace(place, 1, QByteArray(1, char(m_random())));
         }
-    }
-    QByteArray number()
-    {
-        const auto digits = [this](unsigned most) {
-            QByteArray digits;
-            for (unsigned i = 1 + pick(most); i > 0; --i)
-                digits += char('0' + pick(10));
-            return digits;
-        };
-        if (fault())
-            return one({"1e400", "-", "01", "+1", ".5", "1e", "NaN", "-Infinity", "0x10", "1 2", "1\"2"});
-        QByteArray number = pick(3) ? "" : "-";
-        number += pick(5) ? QByteArray::number(digits(19).toULongLong()) : one({"0", "9223372036854775808"});
-        if (pick(2))
-            number += '.' + digits(pick(2) ? 3 : 17);
-        if (odd())
-            number += '.' + QByteArray(int(pick(4)), '0');
-        if (odd())
-            number += one({"e", "E"}) + one({"", "+", "-"}) + digits(2);
-        return number.count('.') > 1 && !fault() ? number.left(number.indexOf('.')) : number;
-    }
-    QByteArray text()
-    {
-        QByteArray text;
-        for (unsigned i = pick(4); i > 0; --i) {
-            text += pick(3) ? one({"abc", "股票", "é", "1.5", "{", "],"})
-                            : one({"\\n", "\\\"", "\\\\", "\\/", "\\u4e2d", "\\ud83d\\ude00", "\\ud800",
-                                   "\\u0000", "\xf0\x9f\x98\x80", "\x7f"});
-            if (odd())
-                text += one({"\xef\xbb\xbf", "\xef\xbf\xbf", "\\x", "\\u00e9"});
-            if (fault())
-                text += one({"\xff", "\xed\xa0\x80", "\xc0\x80", "\xe4\xb8", "\xf4\x90\x80\x80", "\t",
-                             "\\u12", "\\u+123", "\"", "\\", QByteArray(1, '\0'), "\\\xe4\xb8\xad"});
-        }
-        return '"' + text + '"';
     }
 
     std::mt19937 m_random;
-    bool m_isFaulty;
-    bool m_hasRepeats; ///< some keys come twice
-};
-
-/// The toolkit's parser leaks the first value of a key that comes twice.
-class RepeatsMayLeak
-{
-public:
-    explicit RepeatsMayLeak(bool mayLeak)
-        : m_mayLeak(mayLeak)
-    {
-#ifdef __SANITIZE_ADDRESS__
-        if (m_mayLeak)
-            __lsan_disable();
-#endif
-    }
-    ~RepeatsMayLeak()
-    {
-#ifdef __SANITIZE_ADDRESS__
-        if (m_mayLeak)
-            __lsan_enable();
-#endif
-    }
-    Q_DISABLE_COPY(RepeatsMayLeak)
-
-private:
-    const bool m_mayLeak;
+    const bool m_isOdd;
 };
 
 QString written(const QList<QVariantMap> &rows)
@@ -184,7 +161,6 @@ class TestRowsReply : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void readsWhatTheToolkitReads_data();
     void readsWhatTheToolkitReads();
     void longRowsAndDeepOnesAreReadToo();
     void valuesComeBackAsTheyWere();
@@ -220,27 +196,19 @@ bool TestRowsReply::compare(const QByteArray &json)
     return true;
 }
 
-void TestRowsReply::readsWhatTheToolkitReads_data()
-{
-    QTest::addColumn<bool>("isFaulty");
-    QTest::addColumn<bool>("hasRepeats");
-    QTest::addColumn<int>("fewestApart");
-    QTest::newRow("good replies") << false << false << 1000;
-    QTest::newRow("keys that come twice") << false << true << 1000;
-    QTest::newRow("replies with faults") << true << false << 150;
-}
-
 void TestRowsReply::readsWhatTheToolkitReads()
 {
-    QFETCH(bool, isFaulty);
-    QFETCH(bool, hasRepeats);
-    QFETCH(int, fewestApart);
-    const RepeatsMayLeak ignored(hasRepeats);
     allowWarnings("^respone is not json obj:");
     int apart = 0;
     for (unsigned seed = 0; seed < 2000 && !QTest::currentTestFailed(); ++seed)
-        apart += compare(Writer(seed, isFaulty, hasRepeats).reply());
-    QVERIFY2(apart > fewestApart, qPrintable(QString::number(apart)));
+        apart += compare(Writer(seed, false).reply());
+    QVERIFY2(apart > 1300, qPrintable(QString::number(apart)));
+
+    const RepeatsMayLeak ignored;
+    apart = 0;
+    for (unsigned seed = 0; seed < 6000 && !QTest::currentTestFailed(); ++seed)
+        apart += compare(Writer(seed, true).reply());
+    QVERIFY2(apart > 500, qPrintable(QString::number(apart)));
 }
 
 void TestRowsReply::longRowsAndDeepOnesAreReadToo()
