@@ -20,6 +20,7 @@ constexpr QLatin1String NumberKey("prop_sn");
 constexpr QLatin1String ConversionKey("cnv_cfg");
 constexpr QLatin1String SettingsKey("ots_cfg");
 
+const QString NoView = QStringLiteral("-1");
 const QString Visible = QStringLiteral("1");
 const QString AlsoVisible = QStringLiteral("6");
 
@@ -28,7 +29,7 @@ TFObjectViewConfigTable::Field readField(const QJsonObject &object)
     const auto text = [&object](QLatin1String key) { return object.value(key).toVariant().toString(); };
     TFObjectViewConfigTable::Field field;
     field.propTyp = text(TypeKey);
-    field.objVwId = text(ViewKey);
+    field.objVwId = object.contains(ViewKey) ? text(ViewKey) : NoView;
     field.objPropName = text(NameKey);
     field.objPropCap = text(CaptionKey);
     field.vwSts = text(StatusKey);

@@ -17,7 +17,7 @@ public:
     struct Field
     {
         QString propTyp;
-        QString objVwId;
+        QString objVwId; ///< "-1" where the document names no view
         QString objPropName; ///< the key of all look-ups
         QString objPropCap;
         QString vwSts; ///< "1" and "6" mean visible
