@@ -201,14 +201,15 @@ QPair<QString, QVariant> TFViewConfigTable::orderProperty() const
     const QString text = firstValue([](const QString &name) { return name.toLower() == OrderName; });
     if (text.isEmpty())
         return {};
-    QJsonObject order;
+    // A JSON object takes members of a long list only one by one, and moves the later ones each time.
+    QVariantMap order;
     const QStringList terms = text.split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (const QString &term : terms) {
         const QStringList parts = term.split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (parts.size() == 2)
             order.insert(parts.at(0), parts.at(1).compare(Descending, Qt::CaseInsensitive) == 0 ? -1 : 1);
     }
-    return {OrderName, order};
+    return {OrderName, QJsonObject::fromVariantMap(order)};
 }
 
 QString TFViewConfigTable::childViewParams(qint64 objVwId) const
