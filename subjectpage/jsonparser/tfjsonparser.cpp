@@ -32,6 +32,15 @@ void applyReference(HeaderFieldInfo &field, const HeaderFieldInfo &reference)
         field.caption = reference.caption;
     field.width = qMin(field.width, reference.width);
 }
+
+/// The default value of each filter, as captions see it.
+QVariantMap defaultsByCaption(const QList<TFTableModelData::FilterData> &filters)
+{
+    QVariantMap defaults;
+    for (const TFTableModelData::FilterData &filter : filters)
+        defaults.insert(filter.Caption, filter.DefualtValue);
+    return defaults;
+}
 } // namespace
 
 TFJsonParser::TFJsonParser(QObject *parent)
@@ -56,9 +65,9 @@ bool TFJsonParser::parseConfig(const QJsonValue &document, TFTreeStruct *header,
     for (const QLatin1String name : DocumentTables) {
         if (object.contains(name))
             readTable(name, object.value(name));
+        if (rows && name == TFTableName::Data && dataTable())
+            dataTable()->setRows(rows);
     }
-    if (rows && dataTable())
-        dataTable()->setRows(rows);
     buildHeader();
     buildRows();
     return true;
@@ -118,10 +127,11 @@ void TFJsonParser::buildHeader()
     QList<HeaderFieldInfo> fields = columns->fields();
     if (fields.isEmpty())
         return;
+    const QVariantMap defaults = defaultsByCaption(filterData());
     for (HeaderFieldInfo &field : fields) {
         applyReference(field, referenceRecord(field.fieldName));
         if (TFCaption::hasExpression(field.caption))
-            expandCaption(field.caption);
+            expandCaption(field.caption, defaults);
     }
     std::optional<HeaderFieldInfo> groupColumn;
     if (isGroup())
@@ -137,14 +147,10 @@ HeaderFieldInfo TFJsonParser::referenceRecord(const QString &fieldName) const
     return fields ? fields->headerFieldInfo(fieldName) : HeaderFieldInfo();
 }
 
-void TFJsonParser::expandCaption(QString &caption)
+void TFJsonParser::expandCaption(QString &caption, const QVariantMap &arguments)
 {
-    QVariantMap defaults;
-    const QList<TFTableModelData::FilterData> filters = filterData();
-    for (const TFTableModelData::FilterData &filter : filters)
-        defaults.insert(filter.Caption, filter.DefualtValue);
     QVariant result;
-    expressionParse()->parse(TFCaption::expression(caption), result, defaults);
+    expressionParse()->parse(TFCaption::expression(caption), result, arguments);
     caption = TFCaption::replaced(caption, result.toString());
 }
 

@@ -100,7 +100,7 @@ private:
     void readTable(const QString &name, const QJsonValue &value);
     void buildHeader();
     HeaderFieldInfo referenceRecord(const QString &fieldName) const;
-    void expandCaption(QString &caption);
+    void expandCaption(QString &caption, const QVariantMap &arguments);
     void buildRows();
 
     TFTreeStruct *m_header = nullptr; ///< not owned

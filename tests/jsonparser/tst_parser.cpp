@@ -8,8 +8,6 @@
 #include "mulittable/tfheaderdatastruct.h"
 #include "records/tfrowstore.h"
 
-#include <QSignalSpy>
-
 using TFSubject::TFJsonParser;
 
 class TestParser : public SubjectTest
@@ -77,14 +75,16 @@ void TestParser::childViewsAreForwarded()
 {
     TFTreeStruct header("");
     TFJsonParser parser;
-    QSignalSpy spy(&parser, &TFJsonParser::signalSubTableJsonData);
+    QStringList announced;
+    connect(&parser, &TFJsonParser::signalSubTableJsonData, &parser, [&](qint64 id) {
+        announced.append(QString("%1 over %2 row").arg(id).arg(parser.dataMaps().size()));
+    });
     const QJsonObject children{
         {"prop_typ", "EXTEND"},
         {"prop_name", "childView"},
         {"ext_prop_val", R"([{"ObjShowName":"7","Caption":"c","Propertyparams":"A=B"}])"}};
-    parser.parseConfig(document({}, {}, {children}), &header);
-    QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.at(0).at(0).toLongLong(), 7LL);
+    parser.parseConfig(document({}, {}, {children}), &header, TFRawRows::fromMaps({{{"A", 1}}}));
+    QCOMPARE(announced, QStringList("7 over 1 row"));
     QCOMPARE(parser.childViewParams(7), QString("A=B"));
 }
 

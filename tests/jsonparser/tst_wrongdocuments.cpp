@@ -157,6 +157,7 @@ private slots:
     void oneFaultAnywhereHarmsNothing();
     void hugeTextsAndDeepNestingEnd_data();
     void hugeTextsAndDeepNestingEnd();
+    void longListsEnd();
 };
 
 void TestWrongDocuments::eachFileReadsAsExpected_data()
@@ -258,6 +259,38 @@ void TestWrongDocuments::hugeTextsAndDeepNestingEnd()
     expectWarning("respone is not json obj: \"too deeply nested document\"");
     NtResponse response;
     QVERIFY(!TFJSP::parseResponse("{\"data\":" + QByteArray(100000, '['), response));
+}
+
+void TestWrongDocuments::longListsEnd()
+{
+    QJsonArray columns;
+    QJsonArray filters;
+    QStringList terms;
+    for (int i = 0; i < 10000; ++i) {
+        const QString name = QString::number(i * 7919 % 10000);
+        columns.append(QJsonObject{{"FieldName", name}, {"Caption", "{[" + name + "]}"}, {"Visible", true}});
+        filters.append(QJsonObject{{"Caption", name}, {"DefualtValue", "=1"}});
+        for (int k = 0; k < 30; ++k)
+            terms.append(QString("%1.%2 DESC").arg(name).arg(k));
+    }
+    const auto extension = [](const QString &name, const QJsonArray &held) {
+        return QJsonObject{{"prop_typ", "EXTEND"},
+                           {"prop_name", name},
+                           {"ext_prop_val", QString::fromUtf8(QJsonDocument(held).toJson())}};
+    };
+    QElapsedTimer timer;
+    timer.start();
+    TFTreeStruct header("");
+    TFSubject::TFJsonParser parser;
+    allowWarnings("^cant find field name:");
+    parser.parseConfig(
+        QJsonObject{
+            {"View_Config", QJsonArray{extension("Bands", columns), extension("filters", filters),
+                                       QJsonObject{{"prop_name", "order"}, {"prop_val", terms.join(',')}}}}},
+        &header);
+    QCOMPARE(header.leafCaptions().value(9999), QString("1"));
+    QCOMPARE(parser.orderProperty().second.toJsonObject().size(), terms.size());
+    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
 }
 
 SUBJECT_TEST_MAIN(TestWrongDocuments)
