@@ -89,32 +89,27 @@ void Terminal::start()
         QLoggingCategory::setFilterRules("subject.*.debug=true\nhost.*.debug=true");
     if (isRendering()) // nobody looks at a window meanwhile
         m_service->setStartTimeout(qMax(LeastServicePatienceMs, m_options.render.timeoutMs));
-    connect(m_service.get(), &ServiceProcess::ready, this, &Terminal::useService);
-    connect(m_service.get(), &ServiceProcess::failed, this, &Terminal::serviceFailed);
+    // Queued: it is started before there is a window to tell of it.
+    connect(m_service.get(), &ServiceProcess::ready, this, &Terminal::useService, Qt::QueuedConnection);
+    connect(m_service.get(), &ServiceProcess::failed, this, &Terminal::serviceFailed, Qt::QueuedConnection);
     m_languages->set(m_options.language.value_or(m_settings.language()));
-    prepareCore();
+    TFCore::instance()->setConfigFolders(ProgramFolders::config());
+    TFCore::instance()->setSkinRoot(orElse(m_options.skinPath, ProgramFolders::skins()));
     const QString fault = isRendering() ? skinFault() : QString();
     if (!fault.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(fault));
         QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(WrongUsage); });
         return;
     }
+    useEndpoint(m_endpoint); // first, so that the service comes up while the window is made
+    m_look->prepare(qApp);
+    m_look->setSkin(m_options.skin.value_or(m_settings.skin()));
     makeWindow();
     if (isRendering())
         m_window->showPageAlone();
     else
         m_window->show();
-    useEndpoint(m_endpoint);
     QTimer::singleShot(0, this, &Terminal::loadPlugins);
-}
-
-void Terminal::prepareCore()
-{
-    TFCore *core = TFCore::instance();
-    core->setConfigFolders(ProgramFolders::config());
-    core->setSkinRoot(orElse(m_options.skinPath, ProgramFolders::skins()));
-    m_look->prepare(qApp);
-    m_look->setSkin(m_options.skin.value_or(m_settings.skin()));
 }
 
 QString Terminal::skinFault() const
@@ -135,6 +130,8 @@ void Terminal::makeWindow()
     m_screens = std::make_unique<Screens>(m_catalog.get(), m_window.get(), &m_settings);
     connectWindow();
     restoreWindow();
+    if (m_endpoint.isLocal())
+        tellServiceStart();
 }
 
 void Terminal::connectWindow()
@@ -193,18 +190,24 @@ void Terminal::useEndpoint(const Endpoint &endpoint)
         startService();
     } else {
         m_service->stop();
-        useService(endpoint.service);
+        QTimer::singleShot(0, this, [this, address = endpoint.service] { useService(address); });
     }
 }
 
 void Terminal::startService()
 {
     m_serviceKnown = false;
-    m_window->notice().tell(NoticeBar::Service, QString());
-    m_window->tabs().setHint(tr("Starting the data service..."));
+    if (m_window)
+        tellServiceStart();
     m_service->start({ProgramFolders::serviceProgram(),
                       orElse(m_options.database, ProgramFolders::database()),
                       orElse(m_options.views, ProgramFolders::views())});
+}
+
+void Terminal::tellServiceStart()
+{
+    m_window->notice().tell(NoticeBar::Service, QString());
+    m_window->tabs().setHint(tr("Starting the data service..."));
 }
 
 void Terminal::useService(const QUrl &address)

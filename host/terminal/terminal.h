@@ -36,13 +36,13 @@ public:
     Screens &screens() { return *m_screens; }
 
 private:
-    void prepareCore();
     void makeWindow();
     void connectWindow();
     void restoreWindow();
     void loadPlugins();
     void useEndpoint(const Endpoint &endpoint);
     void startService();
+    void tellServiceStart();
     void useService(const QUrl &address);
     void serviceFailed(const QString &reason);
     void openFirstPages();
