@@ -51,9 +51,8 @@ class HttpServer::Private
 public:
     using Operation = Reply (RequestHandler::*)(const QByteArray &, const Identity &, Database &) const;
 
-    Private(const ServerSettings &settings, const ViewLibrary &library)
+    explicit Private(const ServerSettings &settings)
         : settings(settings)
-        , handler(library, settings.limits)
         , pool(settings.threads, settings.databaseAddress, std::chrono::seconds(settings.limits.seconds))
         , server(connectionSettings(settings))
     {}
@@ -68,7 +67,7 @@ public:
     Gauges gauges() const;
 
     ServerSettings settings;
-    RequestHandler handler;
+    std::shared_ptr<const ViewLibrary> library; ///< by std::atomic_load() and atomic_store() alone
     WorkerPool pool;
     Metrics metrics;
     ConnectionServer server;
@@ -154,6 +153,8 @@ Reply HttpServer::Private::answer(const httplib::Request &request, Operation ope
     const QByteArray body =
         QByteArray::fromRawData(request.body.data(), static_cast<int>(request.body.size()));
     qCDebug(lcAccess).noquote() << QString::fromStdString(request.path) << body;
+    const std::shared_ptr<const ViewLibrary> present = std::atomic_load(&library);
+    const RequestHandler handler(*present, settings.limits);
     Reply reply;
     const auto job = [&](Database *database) {
         reply = database ? (handler.*operation)(body, *identity, *database)
@@ -206,13 +207,18 @@ Gauges HttpServer::Private::gauges() const
     return result;
 }
 
-HttpServer::HttpServer(const ServerSettings &settings, const ViewLibrary &library)
-    : d(std::make_unique<Private>(settings, library))
+HttpServer::HttpServer(const ServerSettings &settings)
+    : d(std::make_unique<Private>(settings))
 {
     d->setUp();
 }
 
 HttpServer::~HttpServer() = default;
+
+void HttpServer::setLibrary(std::shared_ptr<const ViewLibrary> library)
+{
+    std::atomic_store(&d->library, std::move(library));
+}
 
 int HttpServer::bind()
 {

@@ -31,8 +31,12 @@ struct ServerSettings
 class HttpServer
 {
 public:
-    HttpServer(const ServerSettings &settings, const ViewLibrary &library);
+    explicit HttpServer(const ServerSettings &settings);
     ~HttpServer();
+
+    /// What is served from now on; to be called before serve(), and again from any thread. A request that has
+    /// begun keeps the library that it began with.
+    void setLibrary(std::shared_ptr<const ViewLibrary> library);
 
     /// Takes the port. 0 when it can't be had.
     int bind();

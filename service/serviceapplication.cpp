@@ -23,6 +23,8 @@ namespace service {
 
 namespace {
 
+const char StayInForce[] = "(the documents that were read before stay in force)";
+
 enum ExitStatus { Served = 0, Failed = 1, WrongUsage = 2 };
 
 void say(FILE *stream, const QString &line)
@@ -60,13 +62,34 @@ sigset_t blockSignals()
     return signalSet;
 }
 
-/// SIGHUP is told to programs whose log was moved away; the others end the service.
-void waitForEnd(const ServiceOptions &options, const sigset_t &signalSet)
+/// Reads the documents again. One fault, and those that were read before stay in force, all of them: they
+/// name each other.
+void readDocumentsAgain(const ServiceOptions &options, HttpServer *server)
+{
+    Database database(options.server.databaseAddress);
+    QString fault;
+    if (!database.open(&fault)) {
+        qCWarning(lcDocuments).noquote() << fault << StayInForce;
+        return;
+    }
+    const auto library = std::make_shared<const ViewLibrary>(options.views, database);
+    for (const QString &text : library->faults())
+        qCWarning(lcDocuments).noquote() << text << StayInForce;
+    if (!library->faults().isEmpty())
+        return;
+    server->setLibrary(library);
+    qCInfo(lcDocuments).noquote() << "read" << library->viewCount() << "views of" << options.views << "again";
+}
+
+/// At SIGHUP opens the log anew, which may have been moved away, and reads the documents again; the others
+/// end the service.
+void waitForEnd(const ServiceOptions &options, const sigset_t &signalSet, HttpServer *server)
 {
     int signal = 0;
     while (sigwait(&signalSet, &signal) == 0 && signal == SIGHUP) {
         if (options.server.accessLog)
             options.server.accessLog->reopen();
+        readDocumentsAgain(options, server);
     }
 }
 
@@ -86,18 +109,37 @@ QString openFiles(ServiceOptions *options)
     return fault;
 }
 
-int serveUntilSignal(const ServiceOptions &options, const ViewLibrary &library, const sigset_t &signalSet)
+std::shared_ptr<const ViewLibrary> readDocuments(const ServiceOptions &options, Database &database)
 {
-    HttpServer server(options.server, library);
+    auto library = std::make_shared<const ViewLibrary>(options.views, database);
+    for (const QString &text : library->faults())
+        say(stderr, text);
+    return library;
+}
+
+int check(const ServiceOptions &options, Database &database)
+{
+    const auto library = readDocuments(options, database);
+    const auto faults = library->faults().size();
+    say(stdout, QStringLiteral("%1 views, %2 faults").arg(library->viewCount()).arg(faults));
+    return faults == 0 ? Served : Failed;
+}
+
+/// Tells its address before it reads the documents: who connects meanwhile waits for their end, and has the
+/// time to get ready himself.
+int serveUntilSignal(const ServiceOptions &options, Database &database, const sigset_t &signalSet)
+{
+    HttpServer server(options.server);
     const int port = server.bind();
     if (port == 0) {
         say(stderr,
             QStringLiteral("cannot listen on %1, port %2").arg(options.server.host).arg(options.server.port));
         return Failed;
     }
-    std::thread serving([&server] { server.serve(); });
     say(stdout, QStringLiteral("listening on http://%1:%2").arg(options.server.host).arg(port));
-    waitForEnd(options, signalSet);
+    server.setLibrary(readDocuments(options, database));
+    std::thread serving([&server] { server.serve(); });
+    waitForEnd(options, signalSet, &server);
     server.stop();
     serving.join();
     return Served;
@@ -111,15 +153,7 @@ int run(const ServiceOptions &options, const sigset_t &signalSet)
         say(stderr, fault);
         return Failed;
     }
-    const ViewLibrary library(options.views, database);
-    for (const QString &text : library.faults())
-        say(stderr, text);
-    if (options.checkOnly) {
-        say(stdout,
-            QStringLiteral("%1 views, %2 faults").arg(library.viewCount()).arg(library.faults().size()));
-        return library.faults().isEmpty() ? Served : Failed;
-    }
-    return serveUntilSignal(options, library, signalSet);
+    return options.checkOnly ? check(options, database) : serveUntilSignal(options, database, signalSet);
 }
 
 } // namespace

@@ -82,7 +82,8 @@ void addServiceOptions(QCommandLineParser &parser)
     parser.addOptions({
         {QStringLiteral("db"), QStringLiteral("SQLite file to read, or postgresql://user@host:port/name."),
          QStringLiteral("database")},
-        {QStringLiteral("views"), QStringLiteral("Folder of the view documents."), QStringLiteral("folder")},
+        {QStringLiteral("views"), QStringLiteral("Folder of the view documents, read again at SIGHUP."),
+         QStringLiteral("folder")},
         {QStringLiteral("host"), QStringLiteral("Address to listen on."), QStringLiteral("address"),
          QStringLiteral("127.0.0.1")},
         {QStringLiteral("token-file"),

@@ -18,7 +18,8 @@ struct ServedView
     QString file;             ///< relative to the folder of the documents
 };
 
-/// All views and what goes with them, read once. Afterwards it is only read, by any number of threads.
+/// All views and what goes with them, as their documents stood when it was made. Afterwards it is only read,
+/// by any number of threads.
 class ViewLibrary
 {
 public:

@@ -67,6 +67,7 @@ private slots:
     void aViewOfOtherProductsIsNotThere();
     void withoutTokensTheRequestNamesItsProduct();
     void aChangedTokenFileIsReadUnlessItIsBad();
+    void changedDocumentsAreReadAtHangupUnlessOneIsBad();
     void aRequestBeyondALimitIsRefused_data();
     void aRequestBeyondALimitIsRefused();
     void aSlowQueryIsStopped();
@@ -158,6 +159,24 @@ void TestServiceGuards::aChangedTokenFileIsReadUnlessItIsBad()
     QTRY_VERIFY_WITH_TIMEOUT(
         status("new") == 200 && service.errors().contains("tokens:2: the token stands twice"), 20000);
     QCOMPARE(status("other"), 401);
+}
+
+void TestServiceGuards::changedDocumentsAreReadAtHangupUnlessOneIsBad()
+{
+    RunningService service(*m_fixture);
+    const auto hangUp = [&service] { ::kill(static_cast<pid_t>(service.process().processId()), SIGHUP); };
+    const auto status = [&service] { return post(service.port(), SubjectPath, counting(1)).status; };
+    QCOMPARE(status(), 400);
+
+    m_fixture->write(QStringLiteral("20.json"), countingView());
+    hangUp();
+    QTRY_COMPARE_WITH_TIMEOUT(status(), 200, 20000);
+
+    QVERIFY(QFile::remove(m_fixture->viewFolder() + "/20.json"));
+    m_fixture->write(QStringLiteral("13.json"), QByteArray("{"));
+    hangUp();
+    QTRY_VERIFY_WITH_TIMEOUT(service.errors().contains("13.json: line 1"), 20000);
+    QCOMPARE(status(), 200);
 }
 
 void TestServiceGuards::aRequestBeyondALimitIsRefused_data()
