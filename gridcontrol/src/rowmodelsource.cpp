@@ -9,6 +9,8 @@ void RowModel::setSource(QAbstractItemModel *source, const QModelIndex &root)
     beginResetModel();
     if (sourceModel())
         disconnect(sourceModel(), nullptr, this, nullptr);
+    // The same source again would not be connected by the toolkit, which then reads it after its end.
+    setSourceModel(nullptr);
     setSourceModel(source);
     m_root = root;
     m_hasRoot = root.isValid();
