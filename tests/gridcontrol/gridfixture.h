@@ -58,6 +58,46 @@ struct Table
     GridViewBase *view;
 };
 
+/// A banded grid of columns of 100 pixels, shown.
+struct Banded
+{
+    explicit Banded(int columns = 5)
+    {
+        fill(model, 50, columns);
+        grid.setViewType(BandedTableView);
+        view = static_cast<GridBandedTableView *>(grid.rootView());
+        view->setModel(&model);
+        for (int i = 0; i < columns; ++i)
+            view->getColumn(i)->setWidth(100);
+        grid.resize(900, 400);
+        grid.show();
+    }
+
+    GridTableBand *band(const QString &caption, const QVector<int> &columns, GridTableBand *parent = nullptr)
+    {
+        GridTableBand *made = view->addBand(caption);
+        if (parent)
+            made->setBandIndex(parent->index());
+        for (int column : columns)
+            static_cast<GridBandedTableColumn *>(view->getColumn(column))->setBandIndex(made->index());
+        return made;
+    }
+    GridArea &area() { return *view->area(); }
+    QPoint rightEdge(const GridColumnBase *item)
+    {
+        for (const HeaderCell &cell : area().captions().cells())
+            if (cell.item == item) {
+                const QRect rect = area().header()->cellRect(cell);
+                return QPoint(rect.right(), rect.center().y());
+            }
+        return QPoint();
+    }
+
+    QStandardItemModel model;
+    Grid grid;
+    GridBandedTableView *view;
+};
+
 /// What was painted of a widget since it is watched.
 class PaintWatch : public QObject
 {
@@ -74,38 +114,24 @@ protected:
     }
 };
 
-/// The captions of the header as text, one cell a string: "caption level+levels slots".
-inline QStringList captionsOf(const GridArea &area)
-{
-    QStringList all;
-    for (const HeaderCell &cell : area.captions().cells())
-        all.append(QStringLiteral("%1 %2+%3 %4-%5")
-                       .arg(cell.item->caption())
-                       .arg(cell.level)
-                       .arg(cell.levels)
-                       .arg(cell.firstSlot)
-                       .arg(cell.lastSlot));
-    return all;
-}
-
-inline QStringList shownCaptions(const GridViewBase &view)
+inline QString shownCaptions(const GridViewBase &view)
 {
     QStringList all;
     for (const GridColumn *column : view.shownColumns())
         all.append(column->caption());
-    return all;
+    return all.join(' ');
 }
 
-/// What the lines of the screen show in the first shown column; group rows as "[key count]".
-inline QStringList linesOf(const GridArea &area)
+/// What the lines of the screen show in their first column; group rows as "[key count]".
+inline QString linesOf(const RowModel &rows)
 {
     QStringList all;
-    for (int line = 0; line < area.rows().rowCount(); ++line) {
-        const RowGroup *group = area.rows().order().groupAt(line);
-        all.append(group ? QStringLiteral("[%1 %2]").arg(group->key).arg(group->count())
-                         : area.textOf(line, 0));
+    for (int line = 0; line < rows.rowCount(); ++line) {
+        const RowGroup *group = rows.order().groupAt(line);
+        all.append(group ? QString("[%1 %2]").arg(group->key).arg(group->count())
+                         : rows.index(line, 0).data().toString());
     }
-    return all;
+    return all.join(' ');
 }
 
 /// A move of the pointer as a widget gets it; the toolkit's test function would move the screen's pointer
