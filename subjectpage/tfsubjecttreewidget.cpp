@@ -71,6 +71,7 @@ void TFSubjectTreeWidget::buildView()
     m_view->setObjectName(m_isBlock ? QStringLiteral("BlockTreeView") : QStringLiteral("SubjectTreeView"));
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_view->setAnimated(true);
+    m_view->setExpandsOnDoubleClick(false); // the view would close what slotDoubleClicked() has opened
     m_view->setHeaderHidden(true);
     m_view->header()->setMinimumSectionSize(indentation); // else a narrow tree scrolls sideways
     m_view->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -183,8 +184,9 @@ bool TFSubjectTreeWidget::isTopGroup(const QModelIndex &index) const
 
 void TFSubjectTreeWidget::slotDoubleClicked(const QModelIndex &index)
 {
-    if (index.isValid() && !m_view->isExpanded(index) && isTopGroup(index))
-        m_view->expandRecursively(index);
+    // A top group opens with all below it, see slotExpanded().
+    if (m_proxy->hasChildren(index))
+        m_view->setExpanded(index, !m_view->isExpanded(index));
 }
 
 void TFSubjectTreeWidget::slotExpanded(const QModelIndex &index)
@@ -297,7 +299,6 @@ bool TFSubjectTreeWidget::eventFilter(QObject *watched, QEvent *event)
 void TFSubjectTreeWidget::openCurrent()
 {
     const QModelIndex index = m_view->currentIndex();
-    if (m_proxy->hasChildren(index))
-        m_view->setExpanded(index, !m_view->isExpanded(index));
+    slotDoubleClicked(index);
     slotItemClicked(index);
 }
