@@ -6,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSet>
 
 namespace {
 using namespace TFChartData;
@@ -85,7 +84,7 @@ QByteArray withData(const QByteArray &text, const QList<ChartSeries> &series)
     return filled.append(text.constData() + from, text.size() - from);
 }
 
-template <typename Texts> QJsonArray legendOf(const Texts &texts)
+QJsonArray legendOf(const QStringList &texts)
 {
     QJsonArray legend;
     for (const QString &text : texts)
@@ -229,17 +228,18 @@ QByteArray TFChartData::pivotPieMessage(const ChartSet &set, const Config &confi
     if (set.labels.isEmpty() || set.series.isEmpty())
         return {};
     PieLine pies(set.labels.size());
-    QSet<QString> names;
+    QStringList names;
     for (const QString &label : set.labels) {
         QJsonArray slices;
         for (const ChartSeries &series : set.series) {
             if (series.xName != label)
                 continue;
-            names.insert(series.name);
+            names.append(series.name);
             for (int i = 0; i < series.values.size(); ++i)
                 slices.insert(i, slice(series.name, series.values.at(i)));
         }
         pies.add(label, slices);
     }
+    names.removeDuplicates();
     return pies.message(legendOf(names), config);
 }
