@@ -14,14 +14,14 @@ constexpr QLatin1String kPie("pie");
 constexpr QLatin1String kRightAxis("Right");
 constexpr QLatin1String kDateTimeAxis("DateTime");
 const QString kDefaultDateFormat = QStringLiteral("yyyy/M/d");
-const QString kDecimalsPattern = QStringLiteral("^([n,N])(\\d)$");
+constexpr QLatin1String kDecimalsLetters("n,N");
 const QString kReferencePattern = QStringLiteral("\\$\\{(.*)\\}");
 const QString kReference = QStringLiteral("${%1}");
 constexpr int kDefaultDecimals = 2;
 constexpr int kNoCategory = 0;
 constexpr int kAnyCategory = -1;
 
-/// How the points of a series are rounded: "N" or "n" and one digit gives the decimals.
+/// How the points of a series are rounded: "N", "n" or "," and one digit gives the decimals.
 class Rounding
 {
 public:
@@ -32,10 +32,9 @@ public:
             m_decimals = kDefaultDecimals;
             return;
         }
-        QRegExp pattern(kDecimalsPattern);
-        if (pattern.indexIn(format) >= 0) {
+        if (format.size() == 2 && kDecimalsLetters.contains(format.at(0)) && format.at(1).isDigit()) {
             m_kind = Always;
-            m_decimals = pattern.cap(2).toInt();
+            m_decimals = format.at(1).digitValue();
         }
     }
 

@@ -5,8 +5,8 @@ class QPagedPaintDevice;
 
 namespace TFChartPrint {
 
-/// Paints \a image on the page of \a device, from the top left corner on and as large as the page allows in the
-/// image's own proportions.
+/// Paints \a image on the page of \a device, from the top left corner on and as large as the page allows in
+/// the image's own proportions.
 void paint(QPagedPaintDevice &device, const QImage &image);
 
 } // namespace TFChartPrint

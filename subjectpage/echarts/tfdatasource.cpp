@@ -58,14 +58,18 @@ TFChartData::Rows TFDataSource::rows() const
     return data ? data->rows() : TFChartData::Rows();
 }
 
-/// False, with an empty snapshot, without a chart table.
-bool TFDataSource::takeSnapshot()
+TFChartViewJsonTable *TFDataSource::chartTable() const
 {
-    const TFViewConfigTable *view = viewConfig();
-    const TFChartViewJsonTable *chart = view ? view->chartTable() : nullptr;
-    m_chart = chart ? chart->config() : TFChartData::Config();
+    return viewConfig() ? viewConfig()->chartTable() : nullptr;
+}
+
+/// Takes the snapshot of the chart table, and returns the whole of it.
+TFChartData::Config TFDataSource::takeConfig()
+{
+    const TFChartData::Config config = chartTable() ? chartTable()->config() : TFChartData::Config();
+    m_chart = config;
     m_chart.ChartDataConfigs.clear();
-    return chart;
+    return config;
 }
 
 void TFDataSource::build(TFChartData::ChartSet &set, const TFChartData::Rows &rows,
@@ -81,9 +85,7 @@ void TFDataSource::loadConfig(const QJsonValue &json)
 {
     m_tables.clear();
     readTables(json.toObject());
-    if (!takeSnapshot())
-        return;
-    const TFChartData::Config config = viewConfig()->chartTable()->config();
+    const TFChartData::Config config = takeConfig();
     if (config.IsSwitchXAxis)
         return;
     TFChartData::ChartSet set;
@@ -119,10 +121,10 @@ void TFDataSource::clear()
 
 void TFDataSource::orderAndBuild()
 {
-    if (!takeSnapshot())
+    if (!chartTable())
         return;
     const TFViewConfigTable *view = viewConfig();
-    const TFChartData::Config config = view->chartTable()->config();
+    const TFChartData::Config config = takeConfig();
     const TFChartData::Rows selected = TFChartData::selectRows(rows(), config);
     if (view->isCross()) {
         build(m_set, selected, TFChartData::expandCross(selected, config));

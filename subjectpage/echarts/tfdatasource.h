@@ -88,7 +88,8 @@ private:
     template <typename Table> Table *table(int id) const;
     TFViewConfigTable *viewConfig() const;
     TFChartData::Rows rows() const;
-    bool takeSnapshot();
+    TFChartViewJsonTable *chartTable() const;
+    TFChartData::Config takeConfig();
     void orderAndBuild();
     void build(TFChartData::ChartSet &set, const TFChartData::Rows &rows,
                const TFChartData::Config &config) const;
@@ -98,5 +99,5 @@ private:
     int m_sentCount = 0;
     std::map<int, std::unique_ptr<TFBaseJsonTable>> m_tables; ///< by TFTableId
     TFChartData::ChartSet m_set;
-    TFChartData::Config m_chart; ///< of the chart table in force, without its series
+    TFChartData::Config m_chart; ///< of the last chart table, without its series
 };

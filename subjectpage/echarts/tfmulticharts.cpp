@@ -2,7 +2,6 @@
 
 #include "filterwidget/tffilterwidget.h"
 #include "net/tfdm.h"
-#include "net/tfjsp.h"
 #include "previewpage.h"
 #include "records/tfancestors.h"
 #include "records/tfcategories.h"
@@ -231,10 +230,9 @@ void TFMultiCharts::requestData()
             ? TFUc::wholeDataRequest(viewId(), requestParameters(), filters())
             : TFUc::viewDataRequest(viewId(), requestParameters(), filters(), {true, 1, kChartPageSize});
     m_dm->startRequest(content, [this, id = viewId()](bool isOk, const QByteArray &data) {
-        NtResponse response;
         // The rows of a page that was left would be drawn with the settings of this one.
-        if (isOk && id == viewId() && TFJSP::parseResponse(data, response))
-            handleReply(response.data, QString(), 0);
+        if (isOk && id == viewId())
+            takeReply(data, 0);
     });
 }
 
