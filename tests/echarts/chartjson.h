@@ -34,19 +34,13 @@ inline TFChartData::Rows rows(const QString &text)
 /// A series without "IsVisible" is visible here.
 inline TFChartData::Config config(const QString &text)
 {
-    QJsonObject chart = parse(text).object();
-    QJsonArray series;
-    const QJsonArray given = chart.value("ChartDataConfigs").toArray();
-    for (const QJsonValue &element : given) {
-        QJsonObject object = element.toObject();
-        if (!object.contains("IsVisible"))
-            object.insert("IsVisible", true);
-        series.append(object);
-    }
-    chart.insert("ChartDataConfigs", series);
     TFChartViewJsonTable table;
-    table.initWith(QString::fromUtf8(QJsonDocument(chart).toJson()));
-    return table.config();
+    table.initWith(QString::fromUtf8(parse(text).toJson()));
+    TFChartData::Config config = table.config();
+    const QJsonArray series = parse(text)["ChartDataConfigs"].toArray();
+    for (int i = 0; i < series.size(); ++i)
+        config.ChartDataConfigs[i].IsVisible = series[i]["IsVisible"].toBool(true);
+    return config;
 }
 
 /// A reply with the configuration of a chart view named "甲/乙", and \a rows unless they are an empty text.
