@@ -19,9 +19,7 @@ class TestChartData : public SubjectTest
 
 private slots:
     void patternSelectsRows();
-    void axisAndViewDecideTheOrder_data();
     void axisAndViewDecideTheOrder();
-    void crossColumnsBecomeSeries_data();
     void crossColumnsBecomeSeries();
     void formatRoundsThePoint();
     void configurationAndRowsMakeSeries_data();
@@ -81,73 +79,52 @@ void TestChartData::patternSelectsRows()
     QCOMPARE(selected(3, EveryNthRow, -1), QString(""));
 }
 
-void TestChartData::axisAndViewDecideTheOrder_data()
-{
-    QTest::addColumn<QString>("axis"); // its type, then "switched" or "turned"
-    QTest::addColumn<bool>("isOrder");
-    QTest::addColumn<bool>("isGetChartData");
-    QTest::addColumn<QString>("order");
-    QTest::addColumn<QString>("expected");
-
-    testRow("text axis", "String", false, true, "", "2 10 - 1");
-    testRow("turned text axis", "String turned", false, true, "", "10 2 1 -");
-    testRow("date axis", "DateTime", false, true, "", "- 1 2 10");
-    testRow("date axis of the main table's rows", "DateTime", false, false, "", "10 2 1 -");
-    testRow("number axis", "Decimal", false, true, "", "10 2 1 -");
-    testRow("switched axes", "DateTime switched", false, true, "", "2 10 - 1");
-    testRow("ordered by the service", "DateTime", true, true, "{'A':1}", "2 10 - 1");
-    testRow("first field of the order", "String", true, false, "{'B':1,'A':1}", "1 - 10 2");
-    testRow("its direction", "String", true, false, "{'A':-1}", "2 10 - 1");
-    testRow("order without a field", "DateTime", true, false, "{}", "10 2 1 -");
-}
-
 void TestChartData::axisAndViewDecideTheOrder()
 {
-    QFETCH(QString, axis);
-    QFETCH(bool, isOrder);
-    QFETCH(bool, isGetChartData);
-    QFETCH(QString, order);
-    ViewTraits view{isOrder, isGetChartData, {}};
-    if (!order.isEmpty())
-        view.order = {"order", ChartJson::parse(order).object()};
     Config config;
     config.XFieldName = "X";
-    config.XValueType = axis.section(' ', 0, 0);
-    config.IsSwitchXAxis = axis.endsWith("switched");
-    config.IsTurnXAxis = axis.endsWith("turned");
-    const Rows rows = ChartJson::rows("[{'X':2,'A':4},{'X':10,'A':3},{'A':2},{'X':1,'A':1}]");
-
-    QTEST(column(orderRows(rows, config, view), "X"), "expected");
-}
-
-void TestChartData::crossColumnsBecomeSeries_data()
-{
-    QTest::addColumn<QString>("rows");
-    QTest::addColumn<QString>("entries");
-    QTest::addColumn<QString>("expected");
-
-    const char x[] = "[{'FieldName':'X','LegendLable':'L'}]";
-    testRow("groups", "[{'A__X':1,'B__X':2,'D':3}]", x, "A__X AL, B__X BL");
-    testRow("group before its own column", "[{'A__X':1,'X':2}]", x, "A__X AL");
-    testRow("plain column before its groups", "[{'X':1,'a__X':2}]", x, "X L, a__X aL");
-    testRow("no column", "[{'A__X':1}]", "[{'FieldName':'Y'},{'FieldName':'X'}]", "A__X A");
-    testRow("fields with case", "[{'A__x':1}]", x, "");
-    testRow("no rows", "[]", x, "X L");
-    testRow("first row without columns", "[{},{'A__X':1}]", x, "X L");
+    const auto ordered = [&config](const char *axis, const ViewTraits &view) {
+        config.XValueType = axis;
+        const Rows rows = ChartJson::rows("[{'X':2,'A':4},{'X':10,'A':3},{'A':2},{'X':1,'A':1}]");
+        return column(orderRows(rows, config, view), "X");
+    };
+    const auto order = [](const QString &fields) {
+        return QPair<QString, QVariant>("order", ChartJson::parse(fields).object());
+    };
+    const QString asTheyStand = "2 10 - 1";
+    const QString downwards = "10 2 1 -";
+    QCOMPARE(ordered("String", {}), asTheyStand);
+    QCOMPARE(ordered("DateTime", {}), QString("- 1 2 10"));
+    QCOMPARE(ordered("DateTime", {false, false, {}}), downwards); // the main table's rows
+    QCOMPARE(ordered("Decimal", {}), downwards);
+    QCOMPARE(ordered("DateTime", {true, true, order("{'A':1}")}), asTheyStand); // as the service ordered
+    QCOMPARE(ordered("String", {true, false, order("{'B':1,'A':1}")}), QString("1 - 10 2"));
+    QCOMPARE(ordered("DateTime", {true, false, order("{'A':-1}")}), asTheyStand);
+    QCOMPARE(ordered("DateTime", {true, false, order("{}")}), downwards);
+    config.IsTurnXAxis = true;
+    QCOMPARE(ordered("String", {}), downwards);
+    config.IsSwitchXAxis = true;
+    QCOMPARE(ordered("DateTime", {}), asTheyStand);
 }
 
 void TestChartData::crossColumnsBecomeSeries()
 {
-    QFETCH(QString, rows);
-    QFETCH(QString, entries);
-
-    const Config config =
-        expandCross(ChartJson::rows(rows), ChartJson::config("{'ChartDataConfigs':" + entries + "}"));
-
-    QStringList texts;
-    for (const SeriesConfig &entry : config.ChartDataConfigs)
-        texts << entry.FieldName + ' ' + entry.LegendLable;
-    QTEST(texts.join(", "), "expected");
+    const auto expanded = [](const QString &rows, const QString &entries) {
+        QStringList texts;
+        for (const SeriesConfig &entry :
+             expandCross(ChartJson::rows(rows), ChartJson::config("{'ChartDataConfigs':" + entries + "}"))
+                 .ChartDataConfigs)
+            texts << entry.FieldName + ' ' + entry.LegendLable;
+        return texts.join(", ");
+    };
+    const QString x = "[{'FieldName':'X','LegendLable':'L'}]";
+    QCOMPARE(expanded("[{'A__X':1,'B__X':2,'D':3}]", x), QString("A__X AL, B__X BL"));
+    QCOMPARE(expanded("[{'A__X':1,'X':2}]", x), QString("A__X AL")); // a group before its own column
+    QCOMPARE(expanded("[{'X':1,'a__X':2}]", x), QString("X L, a__X aL"));
+    QCOMPARE(expanded("[{'A__X':1}]", "[{'FieldName':'Y'},{'FieldName':'X'}]"), QString("A__X A"));
+    QCOMPARE(expanded("[{'A__x':1}]", x), QString());
+    QCOMPARE(expanded("[]", x), QString("X L"));
+    QCOMPARE(expanded("[{},{'A__X':1}]", x), QString("X L"));
 }
 
 void TestChartData::formatRoundsThePoint()

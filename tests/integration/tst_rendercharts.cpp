@@ -1,25 +1,20 @@
+#include "processes.h"
 #include "renderprogram.h"
-
 #include "subjecttest.h"
 
-#include <QDir>
 #include <QImage>
 
 #include <csignal>
 
 namespace {
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+constexpr char kUrl[] = "view://subjectpage?pnodecode=61&nodecode=6031";
 
 /// The child process of that name, 0 for none.
 qint64 childOf(qint64 parent, const QByteArray &name)
 {
-    for (const QByteArray &child : contents(QString("/proc/%1/task/%1/children").arg(parent)).split(' ')) {
-        if (!child.isEmpty() && contents("/proc/" + child + "/comm").trimmed() == name)
-            return child.toLongLong();
+    for (const qint64 child : Processes::children(parent)) {
+        if (Processes::told(child, "comm") == name)
+            return child;
     }
     return 0;
 }
@@ -27,7 +22,17 @@ qint64 childOf(qint64 parent, const QByteArray &name)
 /// A process that has ended and that nobody has asked after has no command line any more.
 bool runs(qint64 process)
 {
-    return !contents(QString("/proc/%1/cmdline").arg(process)).isEmpty();
+    return !Processes::told(process, "cmdline").isEmpty();
+}
+
+int redPixels(const QImage &picture)
+{
+    int red = 0;
+    for (int i = 0; i < picture.width() * picture.height(); ++i) {
+        const QRgb pixel = picture.pixel(i % picture.width(), i / picture.width());
+        red += qRed(pixel) > 150 && qGreen(pixel) < 80 && qBlue(pixel) < 80;
+    }
+    return red;
 }
 } // namespace
 
@@ -44,8 +49,7 @@ private slots:
         RenderProgram program;
         program.useOwnDisplay();
         const int status =
-            program.run(RenderProgram::demonstration() +
-                        QStringList{"--xlsx", "--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
+            program.run(RenderProgram::demonstration() + QStringList{"--xlsx", "--render", kUrl});
 
         QVERIFY2(status == 0, qPrintable(program.errors));
         const QString difference = program.difference("page.json", "chart");
@@ -58,8 +62,7 @@ private slots:
     {
         RenderProgram program;
         program.useOwnDisplay();
-        program.start(RenderProgram::demonstration() +
-                      QStringList{"--render", "view://subjectpage?pnodecode=61&nodecode=6031"});
+        program.start(RenderProgram::demonstration() + QStringList{"--render", kUrl});
         QVERIFY(program.process().waitForStarted());
         const qint64 terminal = program.process().processId();
         QTRY_VERIFY_WITH_TIMEOUT(childOf(terminal, "subject-service") != 0, RenderProgram::PatienceMs);
@@ -70,19 +73,6 @@ private slots:
 
         QVERIFY(program.process().waitForFinished());
         QTRY_VERIFY(!runs(display));
-    }
-
-private:
-    static int redPixels(const QImage &picture)
-    {
-        int red = 0;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                const QRgb pixel = picture.pixel(x, y);
-                red += qRed(pixel) > 150 && qGreen(pixel) < 80 && qBlue(pixel) < 80;
-            }
-        }
-        return red;
     }
 };
 

@@ -22,7 +22,6 @@ class TestMenuCfg : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void viewsAreLookedUpInTheMenu_data();
     void viewsAreLookedUpInTheMenu();
     void shippedMenuServesWhereNoFileIs();
     void englishHostGetsEnglishNames();
@@ -39,34 +38,24 @@ private:
     QTemporaryDir m_folder;
 };
 
-void TestMenuCfg::viewsAreLookedUpInTheMenu_data()
-{
-    QTest::addColumn<QString>("view");
-    QTest::addColumn<int>("topic");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("item");
-
-    testRow("known", "260", 2, "股票专题", "行情/Q/日线/260");
-    testRow("in two menus", "1641", 2, "股票专题", "两处/B/后/1641");
-    testRow("leading zero gives an item and no topic", "01641", -1, "", "两处/B/后/1641");
-    testRow("menu replaced by a later one keeps its items", "300", -1, "", "//旧项/300");
-    testRow("later menu of one code", "301", 61, "新", "//新项/301");
-    testRow("unknown", "999", -1, "", "///0");
-    testRow("no number", "abc", -1, "", "///0");
-}
-
 void TestMenuCfg::viewsAreLookedUpInTheMenu()
 {
-    QFETCH(QString, view);
     writeMenu(twoMenus);
-
     const TFMenuCfg menu(m_folder.path());
-    const MenuItem item = menu.itemOfView(view);
-
-    QTEST(menu.topicOfView(view), "topic");
-    QTEST(menu.topicName(menu.topicOfView(view)), "name");
-    QTEST(QString("%1/%2/%3/%4").arg(item.sectorName, item.sectorCode, item.itemName).arg(item.obj_vw_id),
-          "item");
+    const auto found = [&menu](const QString &view) {
+        const MenuItem item = menu.itemOfView(view);
+        const int topic = menu.topicOfView(view);
+        return QString("%1 %2 %3/%4/%5/%6")
+            .arg(topic)
+            .arg(menu.topicName(topic), item.sectorName, item.sectorCode, item.itemName)
+            .arg(item.obj_vw_id);
+    };
+    QCOMPARE(found("260"), QString("2 股票专题 行情/Q/日线/260"));
+    QCOMPARE(found("1641"), QString("2 股票专题 两处/B/后/1641")); // in two menus
+    QCOMPARE(found("01641"), QString("-1  两处/B/后/1641"));
+    QCOMPARE(found("300"), QString("-1  //旧项/300")); // its menu is replaced by a later one of that code
+    QCOMPARE(found("301"), QString("61 新 //新项/301"));
+    QCOMPARE(found("abc"), QString("-1  ///0"));
     QCOMPARE(menu.topicName(5), QString());
 }
 

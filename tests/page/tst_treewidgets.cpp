@@ -34,7 +34,6 @@ private slots:
     void selectionGoesDownToALeafOrTheCaption();
     void menuItemIsFoundByNameAndView();
     void emptyTreeOpensNothing();
-    void searchOpensTheFirstLeafThatRemains_data();
     void searchOpensTheFirstLeafThatRemains();
     void searchLineAsksAtTheEndOfEditing();
     void clickOpensWhatIsNotOpenYet();
@@ -132,36 +131,23 @@ void TestTreeWidgets::emptyTreeOpensNothing()
     QCOMPARE(opened(), QStringList());
 }
 
-void TestTreeWidgets::searchOpensTheFirstLeafThatRemains_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<QString>("opened");
-
-    testRow("last character may repeat, any case", "AB",
-            QStringList{"行情", "  指数", "    Absolute", "    abbey"}, "261 Absolute");
-    testRow("repeated character", "abb", QStringList{"行情", "  指数", "    abbey"}, "262 abbey");
-    testRow("pattern", "^资|^日", QStringList{"行情", "  日线", "公司", "  资料"}, "260 日线");
-    testRow("match of a folder alone", "公司", QStringList{}, "");
-    testRow("no pattern at all", "a(", QStringList{}, "");
-    testRow("empty", "", TreeText::lines([] {
-                static TFSubjectTreeModel model;
-                model.build(TreeText::navigation(), 2, false);
-                return std::ref(model);
-            }()),
-            "260 日线");
-}
-
 void TestTreeWidgets::searchOpensTheFirstLeafThatRemains()
 {
-    QFETCH(QString, text);
-    m_container->loadMainTreeByCode("21", TreeText::navigation(), 2, QString());
-    opened();
-
-    m_container->mainTree()->slotSearch(text);
-
-    QTEST(TreeText::lines(*view()->model()), "expected");
-    QTEST(opened().join(","), "opened");
+    load();
+    const auto found = [this](const QString &text) {
+        m_container->mainTree()->slotSearch(text);
+        return TreeText::lines(*view()->model()).join('|') + " > " + pathOf(view()->currentIndex());
+    };
+    const QString all = found("");
+    QCOMPARE(all, QString("行情|  日线|  指数|    Absolute|    abbey|公司|  资料|  网站 > 行情/日线"));
+    QCOMPARE(found("AB"), QString("行情|  指数|    Absolute|    abbey > 行情/指数/Absolute"));
+    QCOMPARE(found("abb"), QString("行情|  指数|    abbey > 行情/指数/abbey"));
+    QCOMPARE(found("^资|^日"), QString("行情|  日线|公司|  资料 > 行情/日线"));
+    QCOMPARE(opened(), QStringList({"260 日线", "261 Absolute", "262 abbey", "260 日线"}));
+    QCOMPARE(found("公司"), QString(" > ")); // a folder's own match is not enough
+    QCOMPARE(found("a("), QString(" > "));   // no pattern at all
+    QCOMPARE(found(""), all);
+    QCOMPARE(opened(), QStringList());
 }
 
 void TestTreeWidgets::searchLineAsksAtTheEndOfEditing()
