@@ -24,12 +24,17 @@ inline QJsonObject column(const QString &name, const QJsonObject &more = {})
     return field;
 }
 
+/// An entry of the view that carries a table.
+inline QJsonObject extension(const QString &name, const QJsonValue &table)
+{
+    return {{"obj_vw_id", 260}, {"prop_typ", "EXTEND"}, {"prop_name", name}, {"ext_prop_val", text(table)}};
+}
+
 /// A document whose columns have their settings in both tables.
 inline QJsonObject document(const QJsonArray &columns, const QJsonArray &rows,
                             const QJsonArray &properties = {})
 {
-    QJsonArray view{QJsonObject{
-        {"obj_vw_id", 260}, {"prop_typ", "EXTEND"}, {"prop_name", "Bands"}, {"ext_prop_val", text(columns)}}};
+    QJsonArray view{extension("Bands", columns)};
     for (const QJsonValue &property : properties)
         view.append(property);
     QJsonArray fields;

@@ -16,8 +16,7 @@ class TestParser : public SubjectTest
 
 private slots:
     void documentWithoutKnownKeysIsRead();
-    void nothingToReadIsRefused();
-    void secondDocumentReplacesEveryTable();
+    void eachDocumentReplacesTheOneBefore();
     void childViewsAreForwarded();
     void laterPageReplacesRowsAndSummary();
     void clearedDataLeavesTheConfiguration();
@@ -48,24 +47,19 @@ void TestParser::documentWithoutKnownKeysIsRead()
     QVERIFY(parser.parseConfig(QJsonArray{1}, &header));
 }
 
-void TestParser::nothingToReadIsRefused()
-{
-    TFTreeStruct header("");
-    TFJsonParser parser;
-    QVERIFY(parser.parseConfig(document({column("A")}, {QJsonObject{{"A", 1}}}), &header));
-    QVERIFY(!parser.parseConfig(QJsonValue(QJsonValue::Undefined), &header));
-    QVERIFY(!parser.parseConfig(QJsonObject(), nullptr));
-    QCOMPARE(written(parser.rows()), QStringList("A=qlonglong:1"));
-}
-
-void TestParser::secondDocumentReplacesEveryTable()
+void TestParser::eachDocumentReplacesTheOneBefore()
 {
     TFTreeStruct header("");
     TFJsonParser parser;
     QJsonObject first = document({column("A")}, {QJsonObject{{"A", 1}}});
     first.insert("Object_View", QJsonArray{QJsonObject{{"obj_vw_name", "name"}}});
     QVERIFY(parser.parseConfig(first, &header));
+
+    QVERIFY(!parser.parseConfig(QJsonValue(QJsonValue::Undefined), &header));
+    QVERIFY(!parser.parseConfig(QJsonObject(), nullptr));
     QCOMPARE(parser.objectViewName(), QString("name"));
+    QCOMPARE(written(parser.rows()), QStringList("A=qlonglong:1"));
+
     QVERIFY(parser.parseConfig(document({column("B")}, {}), &header));
     QVERIFY(parser.objectViewName().isEmpty() && !parser.hasRawRows() && parser.rows().isEmpty());
     QCOMPARE(header.leafCaptions(), QStringList("B"));
@@ -79,11 +73,9 @@ void TestParser::childViewsAreForwarded()
     connect(&parser, &TFJsonParser::signalSubTableJsonData, &parser, [&](qint64 id) {
         announced.append(QString("%1 over %2 row").arg(id).arg(parser.dataMaps().size()));
     });
-    const QJsonObject children{
-        {"prop_typ", "EXTEND"},
-        {"prop_name", "childView"},
-        {"ext_prop_val", R"([{"ObjShowName":"7","Caption":"c","Propertyparams":"A=B"}])"}};
-    parser.parseConfig(document({}, {}, {children}), &header, TFRawRows::fromMaps({{{"A", 1}}}));
+    const QJsonArray children{QJsonObject{{"ObjShowName", "7"}, {"Caption", "c"}, {"Propertyparams", "A=B"}}};
+    parser.parseConfig(document({}, {}, {extension("childView", children)}), &header,
+                       TFRawRows::fromMaps({{{"A", 1}}}));
     QCOMPARE(announced, QStringList("7 over 1 row"));
     QCOMPARE(parser.childViewParams(7), QString("A=B"));
 }
@@ -131,16 +123,13 @@ void TestParser::clearedDataLeavesTheConfiguration()
 
 void TestParser::captionsAndWidthsComeFromTheObject()
 {
+    const auto field = [](const QString &name, const QString &status, const QJsonObject &settings) {
+        return QJsonObject{{"obj_prop_name", name}, {"vw_sts", status}, {"ots_cfg", text(settings)}};
+    };
     QJsonObject doc = document({column("A"), column("B"), column("C")}, {});
-    doc.insert(
-        "Object_View_Config",
-        QJsonArray{QJsonObject{{"obj_prop_name", "A"},
-                               {"vw_sts", "1"},
-                               {"ots_cfg",
-                                text(QJsonObject{{"FieldName", "A"}, {"Caption", "object"}, {"Width", 70}})}},
-                   QJsonObject{{"obj_prop_name", "B"},
-                               {"vw_sts", "2"},
-                               {"ots_cfg", text(QJsonObject{{"FieldName", "B"}, {"Width", 200}})}}});
+    doc.insert("Object_View_Config",
+               QJsonArray{field("A", "1", {{"FieldName", "A"}, {"Caption", "object"}, {"Width", 70}}),
+                          field("B", "2", {{"FieldName", "B"}, {"Width", 200}})});
     TFTreeStruct header("");
     TFJsonParser parser;
     expectWarning("cant find field name: \"C\"");
@@ -153,10 +142,8 @@ void TestParser::captionsAndWidthsComeFromTheObject()
 
 void TestParser::captionExpressionSeesTheFilters()
 {
-    const QJsonObject filters{
-        {"prop_typ", "EXTEND"},
-        {"prop_name", "filters"},
-        {"ext_prop_val", text(QJsonArray{QJsonObject{{"Caption", "年"}, {"DefualtValue", "=2020"}}})}};
+    const QJsonObject filters =
+        extension("filters", QJsonArray{QJsonObject{{"Caption", "年"}, {"DefualtValue", "=2020"}}});
     const auto captionOf = [&filters](const QString &caption) {
         TFTreeStruct header("");
         TFJsonParser parser;

@@ -133,26 +133,18 @@ private:
     const bool m_isOdd;
 };
 
-QString written(const QList<QVariantMap> &rows)
+/// The values with their exact types.
+template <typename... T> QByteArray bytes(const T &...values)
 {
-    QString text;
-    QDebug out(&text);
-    for (const QVariantMap &row : rows) {
-        for (auto it = row.begin(); it != row.end(); ++it) {
-            out << it.key() << it.value() << it.value().isNull();
-            if (it.value().userType() == QMetaType::Double)
-                out << QByteArray::number(it.value().toDouble(), 'g', 17);
-        }
-        out << '\n';
-    }
-    return text;
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    (void(out << values), ...);
+    return bytes;
 }
 
-QString written(const NtResponse &response)
+QByteArray bytes(const NtResponse &response)
 {
-    QString text;
-    QDebug(&text) << response.state << response.msg << response.extend << response.data;
-    return text;
+    return bytes(response.state, response.msg, response.extend, response.data);
 }
 } // namespace
 
@@ -180,7 +172,7 @@ bool TestRowsReply::compare(const QByteArray &json)
     if (TFRowsReply::read(json, reply) != isGood)
         QTest::qFail(qPrintable("another verdict: " + seen), __FILE__, __LINE__);
     if (!reply.rows) {
-        if (written(reply.envelope) != written(plain))
+        if (bytes(reply.envelope) != bytes(plain))
             QTest::qFail(qPrintable("another envelope: " + seen), __FILE__, __LINE__);
         return false;
     }
@@ -191,7 +183,7 @@ bool TestRowsReply::compare(const QByteArray &json)
     QJsonObject rest = plain.data.toObject();
     rest["Data"] = QJsonArray();
     plain.data = rest;
-    if (written(apart.rows()) != written(table.rows()) || written(reply.envelope) != written(plain))
+    if (bytes(apart.rows()) != bytes(table.rows()) || bytes(reply.envelope) != bytes(plain))
         QTest::qFail(qPrintable("another reading: " + seen), __FILE__, __LINE__);
     return true;
 }

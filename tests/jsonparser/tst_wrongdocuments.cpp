@@ -1,3 +1,4 @@
+#include "parserdocument.h"
 #include "subjecttest.h"
 
 #include "jsonparser/tfbasejsontable.h"
@@ -8,9 +9,6 @@
 #include "net/tfviewproperties.h"
 
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 #include <functional>
 
@@ -25,15 +23,9 @@ QByteArray contents(const QString &path)
     return file.readAll();
 }
 
-/// What all readers make of one reply, in one line.
+/// What all readers make of one reply, in one line that ends in "apart" where they contradict each other.
 QString readingOf(const QByteArray &reply)
 {
-    const auto columnsOf = [](TFTreeStruct &header) {
-        QStringList columns;
-        for (const TFTreeStruct *leaf : header.leaves())
-            columns.append(QString("%1 '%2'").arg(leaf->info().fieldName, leaf->displayCaption()));
-        return columns.join(", ");
-    };
     NtResponse response;
     const bool envelope = TFJSP::parseResponse(reply, response);
     QJsonArray nodes;
@@ -42,70 +34,40 @@ QString readingOf(const QByteArray &reply)
     TFSubject::TFJsonParser parser;
     QStringList children;
     QObject::connect(&parser, &TFSubject::TFJsonParser::signalSubTableJsonData, &parser,
-                     [&](qint64 id, const QString &) { children.append(QString::number(id)); });
-    parser.parseConfig(response.data, &header);
+                     [&](qint64 id) { children.append(QString::number(id)); });
+    bool isSound = parser.parseConfig(response.data, &header);
     const int configRows = parser.rowStore().rowCount();
     const bool page = parser.parseData(response.data);
     QList<QList<QVariant>> plain;
     const bool exported = parser.parseData(reply, &plain, &header);
+
+    QStringList columns;
+    for (const TFTreeStruct *leaf : header.leaves())
+        columns.append(QString("%1 '%2'").arg(leaf->info().fieldName, leaf->displayCaption()));
+    isSound = isSound && header.depth() >= 1 && parser.rowStore().rowCount() == parser.dataMaps().size();
+    for (const RowData &row : parser.rows())
+        isSound = isSound && row.size() >= columns.size();
+    for (const QList<QVariant> &row : plain)
+        isSound = isSound && row.size() == columns.size();
     return QString("envelope %1 state %2, tree %3, columns [%4], rows %5, page %6, cells %7, filters %8, "
                    "children [%9]")
                .arg(envelope)
                .arg(response.state)
                .arg(tree)
-               .arg(columnsOf(header))
+               .arg(columns.join(", "))
                .arg(configRows)
                .arg(page)
                .arg(parser.rowStore().cellCount(0))
                .arg(parser.filterData().size())
                .arg(children.join(' ')) +
-           QString(", total %1, export %2 %3").arg(parser.rowCount()).arg(exported).arg(plain.size());
+           QString(", total %1, export %2 %3").arg(parser.rowCount()).arg(exported).arg(plain.size()) +
+           (isSound ? "" : " apart");
 }
 
-/// Runs every reader over a payload and checks what must hold whatever it is.
-void readAll(const QJsonValue &payload)
-{
-    TFTreeStruct header("");
-    TFSubject::TFJsonParser parser;
-    QCOMPARE(parser.parseConfig(payload, &header), !payload.isUndefined());
-    for (int pass = 0; pass < 2; ++pass) {
-        QCOMPARE(parser.rowStore().rowCount(), parser.dataMaps().size());
-        for (const RowData &row : parser.rows())
-            QVERIFY(row.size() >= header.leaves().size());
-        parser.parseData(payload);
-    }
-    QVERIFY(header.leafCaptions().size() == header.leaves().size() && header.depth() >= 1);
-    parser.orderProperty();
-    parser.childViewParams(1);
-    parser.filterData();
-
-    QList<QList<QVariant>> plain;
-    const QByteArray reply = QJsonDocument(QJsonObject{{"state", 1}, {"data", payload}}).toJson();
-    QCOMPARE(parser.parseData(reply, &plain, &header), !payload.toObject().isEmpty());
-    for (const QList<QVariant> &row : plain)
-        QCOMPARE(row.size(), header.leaves().size());
-    TFUc::readViewProperties(payload.toArray());
-    for (int id = 1; id <= 12; ++id) {
-        const auto table = TFJsonTableFactory::create(id);
-        if (table)
-            table->initWith(payload);
-    }
-}
-
-const QJsonArray Faults = {QJsonValue(),
-                           true,
-                           1,
-                           -1e300,
-                           0.5,
-                           "x",
-                           "[",
-                           "[{}]",
-                           "{}",
-                           QJsonArray(),
-                           QJsonObject(),
-                           QJsonArray{QJsonArray()},
-                           QJsonArray{QJsonObject()},
-                           QJsonArray{QJsonValue(), 1}};
+const QJsonArray Faults =
+    QJsonDocument::fromJson(
+        R"([null, true, 1, -1e300, 0.5, "x", "[", "[{}]", "{}", [], {}, [[]], [{}], [null, 1]])")
+        .array();
 
 using Visit = std::function<void(const QJsonValue &)>;
 
@@ -138,10 +100,7 @@ void forEachFault(const QJsonValue &value, const Visit &visit)
         }
     } else if (value.isString() && (value.toString().startsWith('[') || value.toString().startsWith('{'))) {
         const QJsonValue held = QJsonDocument::fromJson('[' + value.toString().toUtf8() + ']').array().at(0);
-        forEachFault(held, [&](const QJsonValue &other) {
-            visit(QString::fromUtf8(other.isArray() ? QJsonDocument(other.toArray()).toJson()
-                                                    : QJsonDocument(other.toObject()).toJson()));
-        });
+        forEachFault(held, [&](const QJsonValue &other) { visit(text(other)); });
     }
 }
 } // namespace
@@ -153,7 +112,6 @@ class TestWrongDocuments : public SubjectTest
 private slots:
     void eachFileReadsAsExpected_data();
     void eachFileReadsAsExpected();
-    void replyCutOffAnywhereIsRefused();
     void oneFaultAnywhereHarmsNothing();
     void hugeTextsAndDeepNestingEnd_data();
     void hugeTextsAndDeepNestingEnd();
@@ -191,28 +149,24 @@ void TestWrongDocuments::eachFileReadsAsExpected()
     QCOMPARE(reading + (said.isEmpty() ? "" : " | " + said.join(" | ")), expected);
 }
 
-void TestWrongDocuments::replyCutOffAnywhereIsRefused()
-{
-    allowWarnings("^respone is not json obj:");
-    const QByteArray reply =
-        QJsonDocument::fromJson(contents("good/reply.json")).toJson(QJsonDocument::Compact);
-    for (int length = 0; length < reply.size(); ++length) {
-        NtResponse response;
-        QVERIFY2(!TFJSP::parseResponse(reply.left(length), response), qPrintable(QString::number(length)));
-        QVERIFY(response.data.isNull());
-    }
-    NtResponse response;
-    QVERIFY(TFJSP::parseResponse(reply, response));
-}
-
 void TestWrongDocuments::oneFaultAnywhereHarmsNothing()
 {
     allowWarnings("^cant find field name:");
-    const QJsonValue good = QJsonDocument::fromJson(contents("good/reply.json")).object().value("data");
+    QJsonObject reply = QJsonDocument::fromJson(contents("good/reply.json")).object();
     int documents = 0;
-    forEachFault(good, [&documents](const QJsonValue &payload) {
+    forEachFault(reply.value("data"), [&](const QJsonValue &payload) {
         ++documents;
-        readAll(payload);
+        reply.insert("data", payload);
+        const QString reading = readingOf(QJsonDocument(reply).toJson());
+        const bool isRead = !payload.toObject().isEmpty();
+        if (!reading.startsWith("envelope 1 state 1") || reading.contains("page 1") != isRead ||
+            reading.contains("export 1") != isRead || reading.endsWith("apart"))
+            QTest::qFail(qPrintable(reading + text(payload)), __FILE__, __LINE__);
+        TFUc::readViewProperties(payload.toArray());
+        for (int id = 1; id <= 12; ++id) {
+            if (const auto table = TFJsonTableFactory::create(id))
+                table->initWith(payload);
+        }
     });
     QVERIFY2(documents > 3000, qPrintable(QString::number(documents)));
 }
@@ -234,31 +188,16 @@ void TestWrongDocuments::hugeTextsAndDeepNestingEnd()
 {
     QFETCH(QString, caption);
     QFETCH(QString, expression);
-    const QJsonObject field{{"FieldName", "A"},
-                            {"Caption", caption},
-                            {"Visible", true},
-                            {"ValueType", "Decimal"},
-                            {"UnboundExpression", expression}};
-    const QString settings = QString::fromUtf8(QJsonDocument(field).toJson());
-    const QJsonObject document{
-        {"Data", QJsonArray{QJsonObject{{"A", caption}, {expression.left(100), 1}}}},
-        {"View_Config",
-         QJsonArray{QJsonObject{
-             {"prop_typ", "EXTEND"}, {"prop_name", "Bands"}, {"ext_prop_val", '[' + settings + ']'}}}},
-        {"Object_View_Config",
-         QJsonArray{QJsonObject{{"obj_prop_name", "A"}, {"vw_sts", "1"}, {"ots_cfg", settings}}}}};
+    const QJsonObject field = column("A", {{"Caption", caption}, {"UnboundExpression", expression}});
+    const QJsonObject row{{"A", caption}, {expression.left(100), 1}};
     QElapsedTimer timer;
     timer.start();
     TFTreeStruct header("");
     TFSubject::TFJsonParser parser;
-    QVERIFY(parser.parseConfig(document, &header));
+    QVERIFY(parser.parseConfig(document({field}, {row}), &header));
     QCOMPARE(parser.rowStore().rowCount(), 1);
     QCOMPARE(header.leaves().size(), 1);
     QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
-
-    expectWarning("respone is not json obj: \"too deeply nested document\"");
-    NtResponse response;
-    QVERIFY(!TFJSP::parseResponse("{\"data\":" + QByteArray(100000, '['), response));
 }
 
 void TestWrongDocuments::longListsEnd()
@@ -268,26 +207,17 @@ void TestWrongDocuments::longListsEnd()
     QStringList terms;
     for (int i = 0; i < 10000; ++i) {
         const QString name = QString::number(i * 7919 % 10000);
-        columns.append(QJsonObject{{"FieldName", name}, {"Caption", "{[" + name + "]}"}, {"Visible", true}});
+        columns.append(column(name, {{"Caption", "{[" + name + "]}"}}));
         filters.append(QJsonObject{{"Caption", name}, {"DefualtValue", "=1"}});
         for (int k = 0; k < 30; ++k)
             terms.append(QString("%1.%2 DESC").arg(name).arg(k));
     }
-    const auto extension = [](const QString &name, const QJsonArray &held) {
-        return QJsonObject{{"prop_typ", "EXTEND"},
-                           {"prop_name", name},
-                           {"ext_prop_val", QString::fromUtf8(QJsonDocument(held).toJson())}};
-    };
     QElapsedTimer timer;
     timer.start();
     TFTreeStruct header("");
     TFSubject::TFJsonParser parser;
-    allowWarnings("^cant find field name:");
-    parser.parseConfig(
-        QJsonObject{
-            {"View_Config", QJsonArray{extension("Bands", columns), extension("filters", filters),
-                                       QJsonObject{{"prop_name", "order"}, {"prop_val", terms.join(',')}}}}},
-        &header);
+    const QJsonObject order{{"prop_name", "order"}, {"prop_val", terms.join(',')}};
+    parser.parseConfig(document(columns, {}, {extension("filters", filters), order}), &header);
     QCOMPARE(header.leafCaptions().value(9999), QString("1"));
     QCOMPARE(parser.orderProperty().second.toJsonObject().size(), terms.size());
     QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
