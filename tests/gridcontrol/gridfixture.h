@@ -25,12 +25,13 @@ inline void fill(QStandardItemModel &model, int rows, int columns)
     }
 }
 
-/// A plain grid of columns of 100 pixels, shown.
+/// A grid of columns of 100 pixels, shown.
 struct Table
 {
-    explicit Table(int rows = 20, int columns = 4)
+    explicit Table(int rows = 20, int columns = 4, int viewType = PlainTableView)
     {
         fill(model, rows, columns);
+        grid.setViewType(viewType);
         view = grid.rootView();
         view->setModel(&model);
         for (int i = 0; i < columns; ++i)
@@ -58,31 +59,24 @@ struct Table
     GridViewBase *view;
 };
 
-/// A banded grid of columns of 100 pixels, shown.
-struct Banded
+/// A wide one with bands.
+struct Banded : Table
 {
     explicit Banded(int columns = 5)
+        : Table(50, columns, BandedTableView)
     {
-        fill(model, 50, columns);
-        grid.setViewType(BandedTableView);
-        view = static_cast<GridBandedTableView *>(grid.rootView());
-        view->setModel(&model);
-        for (int i = 0; i < columns; ++i)
-            view->getColumn(i)->setWidth(100);
         grid.resize(900, 400);
-        grid.show();
     }
 
     GridTableBand *band(const QString &caption, const QVector<int> &columns, GridTableBand *parent = nullptr)
     {
-        GridTableBand *made = view->addBand(caption);
+        GridTableBand *made = static_cast<GridBandedTableView *>(view)->addBand(caption);
         if (parent)
             made->setBandIndex(parent->index());
         for (int column : columns)
             static_cast<GridBandedTableColumn *>(view->getColumn(column))->setBandIndex(made->index());
         return made;
     }
-    GridArea &area() { return *view->area(); }
     QPoint rightEdge(const GridColumnBase *item)
     {
         for (const HeaderCell &cell : area().captions().cells())
@@ -92,10 +86,6 @@ struct Banded
             }
         return QPoint();
     }
-
-    QStandardItemModel model;
-    Grid grid;
-    GridBandedTableView *view;
 };
 
 /// What was painted of a widget since it is watched.

@@ -44,42 +44,32 @@ private slots:
         QTest::addColumn<QVariantList>("values");
         QTest::addColumn<bool>("localeAware");
         QTest::addColumn<QString>("up");
+        QTest::addColumn<QString>("down");
 
-        testRow("numbers by value", QVariantList{10, 9.5, -2, 100}, true, "-2 9.5 10 100");
-        testRow("numbers before texts", QVariantList{"b", 3, "a"}, false, "3 a b");
-        testRow("texts by code point", QVariantList{"b", "B", "a10", "a9"}, false, "B a10 a9 b");
-        testRow("digits by value where locale aware", QVariantList{"a10", "b", "a9"}, true, "a9 a10 b");
+        testRow("numbers by value", QVariantList{10, 9.5, -2, 100}, true, "-2 9.5 10 100", "100 10 9.5 -2");
+        testRow("numbers before texts", QVariantList{"b", 3, "a"}, false, "3 a b", "b a 3");
+        testRow("texts by code point", QVariantList{"b", "B", "a10", "a9"}, false, "B a10 a9 b",
+                "b a9 a10 B");
+        testRow("digits by value where locale aware", QVariantList{"a10", "b", "a9"}, true, "a9 a10 b",
+                "b a10 a9");
         testRow("dates by day", QVariantList{QDate(2024, 1, 2), QDate(2023, 12, 31)}, false,
-                "2023-12-31 2024-01-02");
+                "2023-12-31 2024-01-02", "2024-01-02 2023-12-31");
+        testRow("missing last either way", QVariantList{"", 2, QVariant(), 1, qQNaN()}, false, "1 2   nan",
+                "2 1   nan");
     }
 
     void rowsSortByRole()
     {
         QFETCH(QVariantList, values);
         QFETCH(bool, localeAware);
-        QFETCH(QString, up);
         setValues(values);
 
         m_rows->setSortOrder(by(0, false, localeAware));
-        QCOMPARE(linesOf(*m_rows), up);
-
+        QTEST(linesOf(*m_rows), "up");
         m_rows->setSortOrder(by(0, true, localeAware));
-        QStringList down = up.split(' ');
-        std::reverse(down.begin(), down.end());
-        QCOMPARE(linesOf(*m_rows), down.join(' '));
-
+        QTEST(linesOf(*m_rows), "down");
         m_rows->setSortOrder({});
         QCOMPARE(m_rows->sourceIndex(0, 0).row(), 0);
-    }
-
-    void missingValuesComeLastEitherWay()
-    {
-        setValues({"", 2, QVariant(), 1, qQNaN()});
-
-        m_rows->setSortOrder(by(0));
-        QCOMPARE(linesOf(*m_rows).left(4), QString("1 2 "));
-        m_rows->setSortOrder(by(0, true));
-        QCOMPARE(linesOf(*m_rows).left(4), QString("2 1 "));
     }
 
     void rowsStandAsTheyAreArranged_data()
