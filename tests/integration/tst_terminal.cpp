@@ -51,11 +51,7 @@ class TerminalTest : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        if (!DemoData::isThere())
-            QSKIP("the demonstration database is not built: tools/demo-data makes it");
-    }
+    void initTestCase() { QVERIFY2(DemoData::isThere(), "tools/demo-data makes the demonstration database"); }
 
     void init()
     {

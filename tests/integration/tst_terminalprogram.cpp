@@ -32,8 +32,7 @@ private slots:
 
     void screenshotShowsTheHomePage()
     {
-        if (!DemoData::isThere())
-            QSKIP("the demonstration database is not built: tools/demo-data makes it");
+        QVERIFY2(DemoData::isThere(), "tools/demo-data makes the demonstration database");
         QTemporaryDir folder;
         const QString file = folder.filePath("start.png");
         QProcess program;

@@ -132,7 +132,7 @@ private slots:
     void redirectIsFollowedUnlessItLeavesTls()
     {
         // Nobody has signed the certificate, and that does not matter.
-        TestService secure(selfSigned());
+        TestService secure(nullptr, selfSigned());
         const QByteArray away = "Location: " + m_service->url().resolved(QUrl("/plain")).toEncoded();
         for (TestService *service : {m_service.get(), &secure}) {
             service->setRule([away](const TestService::Request &request) {
@@ -267,6 +267,8 @@ private slots:
     }
 
 private:
+    static TestService::Answer held(const TestService::Request &) { return {"", 200, 0, false, true}; }
+
     std::unique_ptr<TestService> m_service;
 };
 

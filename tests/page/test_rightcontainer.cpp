@@ -97,6 +97,25 @@ private slots:
         const QJsonObject body = m_service->requestsFor({{}, 1, 261}).last().body;
         QCOMPARE(body.value("page").toInt() * 1000 + body.value("size").toInt(), 1200);
         QTRY_COMPARE(firstRow(child(0)), QString("CODE0"));
+
+        emit m_page->mainView()->clearChildren();
+        QCOMPARE(firstRow(child(0)), QString());
+    }
+
+    void crossChildAsksForTheWholeSet()
+    {
+        ViewDocument parent;
+        parent.children = {{263, "丙"}};
+        ViewDocument cross;
+        cross.id = 263;
+        cross.properties = {{"IsCross", "1"}};
+        serve(parent);
+        serve(cross);
+
+        open(260);
+
+        QTRY_VERIFY(!m_service->requestsFor({{}, 2, 263}).isEmpty());
+        QVERIFY(!m_service->requestsFor({{}, 2, 263}).first().body.contains("page"));
     }
 
     void failedChildConfigurationKeepsTheMainTableWaiting()
@@ -151,6 +170,7 @@ private slots:
         ViewDocument other;
         other.id = 300;
         other.name = "别的";
+        other.children = {{261, "甲"}};
         serve(other, 1);
         open(260);
         QTRY_COMPARE(m_page->childViews()->count(), 2);
@@ -161,11 +181,17 @@ private slots:
         open(300);
 
         QVERIFY2(tab.isNull(), "tabs of the page before are gone at once");
+        QVERIFY(m_page->childViews()->isHidden());
+        QCOMPARE(firstRow(table), QString());
         QTRY_COMPARE(main()->total(), 1);
         QCOMPARE(main(), table.data());
         QCOMPARE(main()->caption(), QString("别的"));
         QCOMPARE(m_page->mainView()->currentViewId(), qint64(300));
-        QVERIFY(m_page->childViews()->isHidden());
+        QTRY_COMPARE(m_page->childViews()->count(), 1);
+
+        open(999);
+        QVERIFY(stateOf(main()).startsWith("加载中"));
+        QTRY_VERIFY(stateOf(main()).startsWith("耗时"));
     }
 
     void failedPageLeavesTheStackEmpty()
@@ -242,11 +268,10 @@ private slots:
     void kindOfAViewIsThatOfItsConfiguration()
     {
         ViewDocument document;
-        document.properties = {{"ObjViewType", "ViewDataChart"}};
-        QCOMPARE(TFMainView::viewKind(document.config()), 1);
-        document.properties = {{"ObjViewType", "viewdatachart"}};
-        QCOMPARE(TFMainView::viewKind(document.config()), 0);
-        QCOMPARE(TFMainView::viewKind(QJsonValue()), 0);
+        for (const char *type : {"ViewDataChart", "viewdatachart", ""}) {
+            document.properties = {{"ObjViewType", type}};
+            QCOMPARE(TFMainView::viewKind(document.config()), int(*type == 'V'));
+        }
     }
 
     void tabsFoldAndHiddenViewsGiveUpTheirHeight()
@@ -268,6 +293,9 @@ private slots:
         m_page->setChildViewsVisible(false);
         QVERIFY(tabs->isHidden());
         QCOMPARE(splitter->sizes().at(1), 0);
+        open(260);
+        QTRY_COMPARE(tabs->count(), 2);
+        QVERIFY(tabs->isHidden());
 
         m_page->setChildViewsVisible(true);
         m_page->setMainViewVisible(false);

@@ -118,24 +118,15 @@ private slots:
 
     void barsAreAsCachedAtEveryNewPage()
     {
-        const auto barsAtNextPage = [](TFFrameSubjectZHP *frame) {
-            QSignalSpy data(frame->page(), &TFRightContainer::signalDataChanged);
-            frame->refreshPage();
-            if (!data.wait())
-                return QString("no page");
-            const TFRightContainer *page = frame->page();
-            return QStringLiteral("%1 %2 %3")
-                .arg(page->mainView()->isFilterBarVisible())
-                .arg(page->mainView()->isPageBarVisible())
-                .arg(page->areChildViewsVisible());
-        };
-        TFFrameSubjectZHP fresh(holder.get());
-        QCOMPARE(barsAtNextPage(&fresh), QString("0 0 0"));
-
         TFFrameSubjectZHP *frame = makeFrame();
-        QCOMPARE(barsAtNextPage(frame), QString("1 0 1"));
-        frame->page()->mainView()->setFilterBarVisible(false);
-        QCOMPARE(barsAtNextPage(frame), QString("1 0 1"));
+        TFRightContainer *page = frame->page();
+        QSignalSpy data(page, &TFRightContainer::signalDataChanged);
+        for (int i = 0; i < 2; ++i) {
+            QVERIFY(data.wait());
+            QVERIFY(page->mainView()->isFilterBarVisible() && !page->mainView()->isPageBarVisible());
+            page->mainView()->setFilterBarVisible(false);
+            frame->refreshPage();
+        }
     }
 
     void screenWithoutWhatIsNeededLeavesTheFrameWorking()

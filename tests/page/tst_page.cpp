@@ -213,7 +213,9 @@ private slots:
 
         emit right->sigSectorNumChanged(QString("3"), QString("沪深"));
 
-        QVERIFY(!child<TFSubjectTreeWidget>("BlockTree")->isHidden());
+        const auto *tree = child<TFSubjectTreeWidget>("BlockTree");
+        QVERIFY(!tree->isHidden());
+        QCOMPARE(tree->view()->rootIndex().data().toString(), QString("沪深"));
         QCOMPARE(treeLines("BlockTree"),
                  QStringList({"沪深", "  上海", "  [x] 深圳", "    [x] GEM", "其他"}));
         const auto *context = TFAncestors::find<ITFPageContext>(right, "TFSubjectMainFrame");

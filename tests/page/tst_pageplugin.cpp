@@ -30,7 +30,7 @@ private slots:
         QCOMPARE(QUrlQuery(url).queryItemValue("title"), QString("股票专题"));
     }
 
-    void pageIsMadeFromItsRegistration()
+    void pageAndComponentsAreMadeFromTheirRegistration()
     {
         QPluginLoader loader(PAGE_PLUGIN);
         auto *plugin = qobject_cast<IPlugin *>(loader.instance());
@@ -45,26 +45,18 @@ private slots:
         QCOMPARE(QMetaType::typeName(type), "TFSubjectPage");
         std::unique_ptr<QWidget> page(static_cast<QWidget *>(QMetaType::create(type)));
         QCOMPARE(page->metaObject()->className(), "TFSubjectPage");
+        for (const char *name : {"TFFrameSubjectZHP", "TFFrameSubjectZHP_CQ", "TFFrameSubjectZHP_ZZ"}) {
+            const auto construct = TFFactory<QWidget>::constructors().value(name);
+            QVERIFY2(construct, name);
+            QWidget *component = construct(page.get());
+            QCOMPARE(component->parentWidget(), page.get());
+            auto *memory = qobject_cast<ITFMemory *>(component);
+            QVERIFY(memory && memory->object() == component);
+        }
         page.reset();
 
         delete plugin;
         QVERIFY(!TFObjectPool::instance()->find("TFApp.SUBJECT"));
-    }
-
-    void componentsAreMadeByTheirNames()
-    {
-        QPluginLoader loader(PAGE_PLUGIN);
-        QVERIFY2(loader.load(), qPrintable(loader.errorString()));
-        QWidget parent;
-
-        for (const char *name : {"TFFrameSubjectZHP", "TFFrameSubjectZHP_CQ", "TFFrameSubjectZHP_ZZ"}) {
-            const auto construct = TFFactory<QWidget>::constructors().value(name);
-            QVERIFY2(construct, name);
-            QWidget *component = construct(&parent);
-            QCOMPARE(component->parentWidget(), &parent);
-            auto *memory = qobject_cast<ITFMemory *>(component);
-            QVERIFY(memory && memory->object() == component);
-        }
     }
 };
 

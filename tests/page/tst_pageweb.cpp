@@ -3,13 +3,19 @@
 #include <QStackedWidget>
 #include <QTreeView>
 
-#include "testservice.h"
+#include "pageservice.h"
+#include "testhost.h"
+#include "tfbaseview.h"
 #include "tfcore/tfserviceconfig.h"
 #include "tfcore/tfwebview.h"
+#include "tfmainview.h"
+#include "tfrightcontainer.h"
 #include "tfsubjectpage.h"
 #include "tfsubjecttreewidget.h"
 #include "treetext.h"
+#include "viewdocument.h"
 
+/// Pages with a web page or a chart on them.
 class TestPageWeb : public SubjectTest
 {
     Q_OBJECT
@@ -48,6 +54,40 @@ private slots:
         emit tree->clicked(tree->model()->index(1, 0));
         QCOMPARE(stack->currentIndex(), 0);
         QCOMPARE(web->title(), QString("here"));
+    }
+
+    void chartsAskForAllTheirRowsAndTheTableComesBack()
+    {
+        allowWarnings(".*"); // the web engine's own
+        PageService service;
+        const TestHost host(&service);
+        ViewDocument table;
+        table.children = {{400, "图"}};
+        ViewDocument chart;
+        chart.properties = {{"ObjViewType", "ViewDataChart"}, {"isgetchartdata", "1"}};
+        for (const qint64 id : {260, 400, 500}) {
+            const ViewDocument &document = id == 260 ? table : chart;
+            service.answer({{}, 0, id}, PageService::data(document.config()));
+            service.answer({{}, 1, id}, PageService::data(document.rows(0, 3, 3)));
+        }
+        TFRightContainer page;
+        const auto show = [&page](qint64 id, int kind) {
+            const auto top = [&page] { return page.mainView()->currentView(); };
+            page.refreshPage(id, "页");
+            return QTest::qWaitFor([&] { return top() && top()->viewKind() == kind; }, 30000);
+        };
+
+        QVERIFY(show(260, TFBaseView::TableView));
+        TFBaseView *first = page.mainView()->currentView();
+        QTRY_VERIFY(!service.requestsFor({{}, 1, 400}).isEmpty());
+        QVERIFY(!service.requestsFor({{}, 1, 400}).first().body.contains("page"));
+
+        QVERIFY(show(500, TFBaseView::ChartView));
+        QTRY_VERIFY(!service.requestsFor({{}, 1, 500}).isEmpty());
+
+        QVERIFY(show(260, TFBaseView::TableView));
+        QCOMPARE(page.mainView()->currentView(), first);
+        QCOMPARE(page.mainView()->count(), 2);
     }
 };
 

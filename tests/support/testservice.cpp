@@ -2,7 +2,6 @@
 
 #include <QHostAddress>
 #include <QJsonDocument>
-#include <QSslConfiguration>
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QThreadPool>
@@ -35,11 +34,7 @@ private:
 };
 } // namespace
 
-TestService::TestService(QObject *parent)
-    : TestService(QSslConfiguration(), parent)
-{}
-
-TestService::TestService(const QSslConfiguration &tls, QObject *parent)
+TestService::TestService(QObject *parent, const QSslConfiguration &tls)
     : QObject(parent)
     , m_server(new Listener(tls, this))
     , m_scheme(tls.isNull() ? "http" : "https")

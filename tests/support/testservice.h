@@ -7,12 +7,12 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QSslConfiguration>
 #include <QString>
 #include <QUrl>
 
 #include <functional>
 
-class QSslConfiguration;
 class QTcpServer;
 class QTcpSocket;
 
@@ -46,9 +46,8 @@ public:
 
     /// Listens at once. Requests that still wait when the service goes end with an error, and are waited for.
     /// Answers every request with an envelope around null until a rule is set.
-    explicit TestService(QObject *parent = nullptr);
-    /// Speaks TLS, with the certificate and key of \a tls.
-    explicit TestService(const QSslConfiguration &tls, QObject *parent = nullptr);
+    /// With a certificate and its key in \a tls it speaks TLS.
+    explicit TestService(QObject *parent = nullptr, const QSslConfiguration &tls = QSslConfiguration());
     ~TestService() override;
 
     QUrl url() const;
