@@ -183,17 +183,15 @@ TFFrameState TFFrameSubjectZHP::state() const
 {
     TFFrameState state;
     // Bars that are not there have no state but the one that they are to get.
-    const bool isPending = m_isVisibilityPending || !m_page->mainView()->hasBars();
-    if (isPending)
-        state = TFFrameState::quietlyRead(property(cacheProperty).toMap());
+    const bool arePending = m_isVisibilityPending || !m_page->mainView()->hasBars();
     state.titleVisible = m_page->isTitleVisible();
     state.mainViewVisible = m_page->isMainViewVisible();
-    if (!m_isVisibilityPending)
-        state.subViewVisible = m_page->areChildViewsVisible();
-    if (!isPending) {
-        state.filterVisible = m_page->mainView()->isFilterBarVisible();
-        state.pageBarVisible = m_page->mainView()->isPageBarVisible();
-    }
+    state.subViewVisible = m_isVisibilityPending ? isCachedVisible(TFFrameState::SubViewVisible)
+                                                 : m_page->areChildViewsVisible();
+    state.filterVisible =
+        arePending ? isCachedVisible(TFFrameState::FilterVisible) : m_page->mainView()->isFilterBarVisible();
+    state.pageBarVisible =
+        arePending ? isCachedVisible(TFFrameState::PageBarVisible) : m_page->mainView()->isPageBarVisible();
     state.objVwId = m_objVwId;
     state.title = m_title;
     state.binderKey = m_binderKey;
@@ -231,13 +229,17 @@ void TFFrameSubjectZHP::keepVisible(QLatin1String key, bool visible)
     setProperty(cacheProperty, cached);
 }
 
+bool TFFrameSubjectZHP::isCachedVisible(QLatin1String key) const
+{
+    return property(cacheProperty).toMap().value(key).toBool();
+}
+
 void TFFrameSubjectZHP::applyCachedVisibility()
 {
     m_isVisibilityPending = false;
-    const TFFrameState cached = TFFrameState::quietlyRead(property(cacheProperty).toMap());
-    m_page->mainView()->setPageBarVisible(cached.pageBarVisible);
-    m_page->setChildViewsVisible(cached.subViewVisible);
-    m_page->mainView()->setFilterBarVisible(cached.filterVisible);
+    m_page->mainView()->setPageBarVisible(isCachedVisible(TFFrameState::PageBarVisible));
+    m_page->setChildViewsVisible(isCachedVisible(TFFrameState::SubViewVisible));
+    m_page->mainView()->setFilterBarVisible(isCachedVisible(TFFrameState::FilterVisible));
 }
 
 TFFrameSubjectZHP_CQ::TFFrameSubjectZHP_CQ(QWidget *parent)

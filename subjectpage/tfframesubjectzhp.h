@@ -84,6 +84,7 @@ private:
     void addSettingsAction(const QString &list);
     QVariantMap screenArguments() const;
     void followBinder(const QString &value);
+    bool isCachedVisible(QLatin1String key) const;
     void applyCachedVisibility();
 
     TFRightContainer *m_page;

@@ -81,15 +81,9 @@ void reportVersion(const QString &version)
 TFFrameState TFFrameState::read(const QVariantMap &map)
 {
     reportKeys(map);
-    const TFFrameState state = quietlyRead(map);
-    reportVersion(state.version);
-    return state;
-}
-
-TFFrameState TFFrameState::quietlyRead(const QVariantMap &map)
-{
     TFFrameState state;
     state.version = map.value(versionKey, noVersion).toString();
+    reportVersion(state.version);
     state.titleVisible = map.value(titleVisibleKey).toBool();
     state.filterVisible = map.value(filterVisibleKey).toBool();
     state.mainViewVisible = map.value(mainViewVisibleKey).toBool();

@@ -32,8 +32,6 @@ struct TFFrameState
     /// Reads what is usable: a key that is missing or of a wrong type gives false, 0 or an empty value. The
     /// log tells of each, of keys that are not known, and of a version other than that of write().
     static TFFrameState read(const QVariantMap &map);
-    /// The same without a word in the log, for a map that has been read before.
-    static TFFrameState quietlyRead(const QVariantMap &map);
     /// Writes all keys; others in \a map stay. The version is always the present one.
     void write(QVariantMap &map) const;
     /// A state of before there were versions keeps no filter arguments.
