@@ -40,6 +40,7 @@ public:
         bool isClosed = false;          ///< the connection closes instead
         bool isHeld = false;            ///< goes out when release() says so
         QList<QByteArray> headers = {}; ///< further header lines, such as "Location: /x"
+        int missing = 0;                ///< bytes that are announced and never come
     };
 
     using Rule = std::function<Answer(const Request &)>;
