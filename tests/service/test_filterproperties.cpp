@@ -56,13 +56,11 @@ QString lowerAscii(QString text)
 
 bool isLike(const QString &text, const QString &pattern)
 {
-    if (!pattern.contains(QLatin1Char('%')))
+    if (!pattern.contains('%'))
         return lowerAscii(text).contains(lowerAscii(pattern));
     QString expression;
     for (const QChar c : lowerAscii(pattern))
-        expression += c == QLatin1Char('%')   ? QStringLiteral(".*")
-                      : c == QLatin1Char('_') ? QStringLiteral(".")
-                                              : QRegularExpression::escape(c);
+        expression += c == '%' ? ".*" : c == '_' ? "." : QRegularExpression::escape(c);
     return QRegularExpression(QRegularExpression::anchoredPattern(expression),
                               QRegularExpression::DotMatchesEverythingOption)
         .match(lowerAscii(text))
@@ -94,7 +92,7 @@ public:
         Sample sample;
         const int conditions = below(4);
         for (int i = 0; i < conditions; ++i)
-            sample.filter += (i > 0 ? QStringLiteral(" && ") : QString()) + wrapped(condition(&sample));
+            sample.filter += (i > 0 ? " && " : QString()) + wrapped(condition(&sample));
         return sample;
     }
 
@@ -124,16 +122,16 @@ private:
     QString wrapped(QString condition)
     {
         for (int i = below(3); i > 0; --i)
-            condition = QLatin1Char('(') + condition + QLatin1Char(')');
+            condition = '(' + condition + ')';
         return condition;
     }
 
     /// \a value as a parameter of its own.
     QString parameter(Sample *sample, const QJsonValue &value)
     {
-        const QString name = QStringLiteral("P_%1").arg(sample->parameters.size());
+        const QString name = QString("P_%1").arg(sample->parameters.size());
         sample->parameters.insert(name, value);
-        return QLatin1Char(':') + name;
+        return ':' + name;
     }
 
     QString condition(Sample *sample)
@@ -160,14 +158,14 @@ private:
     {
         const bool isNull = oneOf(2);
         sample->tests << [isNull](const Row &row) { return row.number.has_value() != isNull; };
-        return QStringLiteral("N %1 ").arg(isNull ? "==" : "!=") + parameter(sample, QJsonValue());
+        return QString("N %1 ").arg(isNull ? "==" : "!=") + parameter(sample, QJsonValue());
     }
 
     QString like(Sample *sample)
     {
         const QString pattern = text();
         sample->tests << [pattern](const Row &row) { return row.text && isLike(*row.text, pattern); };
-        return QStringLiteral("T like ") + parameter(sample, pattern);
+        return "T like " + parameter(sample, pattern);
     }
 
     QString membership(Sample *sample)
@@ -184,7 +182,7 @@ private:
         sample->tests << [numbers, isIn](const Row &row) {
             return numbers.isEmpty() ? !isIn : row.number && numbers.contains(*row.number) == isIn;
         };
-        return QStringLiteral("N %1 ").arg(isIn ? "in" : "nin") + parameter(sample, list);
+        return QString("N %1 ").arg(isIn ? "in" : "nin") + parameter(sample, list);
     }
 
     QString ofText(Sample *sample, const QString &op)
@@ -193,10 +191,9 @@ private:
         sample->tests << [op, value](const Row &row) {
             return row.text && compare(op, row.text->toUtf8(), value.toUtf8());
         };
-        const bool isLiteral = oneOf(2) && !value.contains(QLatin1Char('\''));
-        return QStringLiteral("T %1 ").arg(op) +
-               (isLiteral ? QLatin1Char('\'') + value + QLatin1Char('\'')
-                          : parameter(sample, QLatin1Char('\'') + value + QLatin1Char('\'')));
+        const bool isLiteral = oneOf(2) && !value.contains('\'');
+        return QString("T %1 ").arg(op) +
+               (isLiteral ? '\'' + value + '\'' : parameter(sample, '\'' + value + '\''));
     }
 
     QString ofNumber(Sample *sample, const QString &op)
@@ -204,11 +201,11 @@ private:
         const double value = number();
         if (oneOf(6)) {
             sample->tests << [value](const Row &row) { return row.number && *row.number != 0 && value != 0; };
-            return QStringLiteral("N && ") + parameter(sample, value);
+            return "N && " + parameter(sample, value);
         }
         sample->tests <<
             [op, value](const Row &row) { return row.number && compare(op, *row.number, value); };
-        return QStringLiteral("N %1 ").arg(op) +
+        return QString("N %1 ").arg(op) +
                (oneOf(2) ? QString::number(value, 'g', 15) : parameter(sample, value));
     }
 
@@ -217,7 +214,7 @@ private:
     {
         QDateTime first = moment();
         QDateTime last = first;
-        QJsonValue value = QStringLiteral("[%1]").arg(first.toString("yyyy-MM-dd HH:mm:ss"));
+        QJsonValue value = QString("[%1]").arg(first.toString("yyyy-MM-dd HH:mm:ss"));
         switch (below(4)) {
         case 0:
             first = QDateTime(QDate(first.date().year(), first.date().month(), 1), QTime(0, 0));
@@ -241,7 +238,7 @@ private:
                 return isWithin;
             return op == "!=" ? !isWithin : compare(op, *row.moment, op == ">" || op == "<=" ? last : first);
         };
-        return QStringLiteral("D %1 ").arg(op) + parameter(sample, value);
+        return QString("D %1 ").arg(op) + parameter(sample, value);
     }
 
     std::mt19937 m_random;
@@ -249,16 +246,16 @@ private:
 
 QString quoted(QString text)
 {
-    return QLatin1Char('\'') + text.replace(QLatin1Char('\''), QLatin1String("''")) + QLatin1Char('\'');
+    return '\'' + text.replace('\'', "''") + '\'';
 }
 
 /// A row as SQL writes it; midnights stand in both spellings.
 QString literals(const Row &row, int id)
 {
     const bool isShort = row.moment && row.moment->time() == QTime(0, 0) && id % 2;
-    const QString form = isShort ? QStringLiteral("yyyy-MM-dd") : QStringLiteral("yyyy-MM-dd HH:mm:ss");
+    const QString form = isShort ? "yyyy-MM-dd" : "yyyy-MM-dd HH:mm:ss";
     const QString none("NULL");
-    return QStringLiteral("(%1, %2, %3, %4)")
+    return QString("(%1, %2, %3, %4)")
         .arg(id)
         .arg(row.text ? quoted(*row.text) : none, row.number ? QString::number(*row.number, 'g', 15) : none,
              row.moment ? quoted(row.moment->toString(form)) : none);
@@ -273,8 +270,56 @@ class TestFilterProperties : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void theDatabaseAnswersAsTheFilterMeans();
+    void initTestCase()
+    {
+        beginMessages();
+        if (qEnvironmentVariableIsSet("SUBJECT_TEST_SEED"))
+            m_seed = static_cast<unsigned>(qEnvironmentVariableIntValue("SUBJECT_TEST_SEED"));
+        Generator generator(m_seed);
+        QStringList values;
+        for (int id = 0; id < RowCount; ++id) {
+            m_rows << generator.row();
+            values << literals(m_rows.last(), id);
+        }
+        m_fixture.change({"CREATE TABLE sample (ID INTEGER, T TEXT, N DOUBLE PRECISION, D TEXT)",
+                          "INSERT INTO sample VALUES " + values.join(", ")});
+        m_database = std::make_unique<Database>(m_fixture.databaseAddress());
+        QString fault;
+        QVERIFY2(m_database->open(&fault), qPrintable(fault));
+    }
+
+    void theDatabaseAnswersAsTheFilterMeans()
+    {
+        const BoundSql base{"SELECT ID, T, N, D FROM sample", {}};
+        const Columns columns(m_database->select(base).value().columns(),
+                              {{"T", ValueKind::Text}, {"N", ValueKind::Number}, {"D", ValueKind::Date}},
+                              m_database->dialect());
+        int found = 0;
+        for (unsigned seed = m_seed; seed < m_seed + Rounds; ++seed) {
+            const Sample sample = Generator(seed).sample();
+            const QByteArray what = "seed " + QByteArray::number(seed) + ": " + sample.filter.toUtf8() + ' ' +
+                                    QJsonDocument(sample.parameters).toJson(QJsonDocument::Compact);
+            const Result<BoundSql> condition = filterCondition(sample.filter, sample.parameters, columns);
+            QVERIFY2(condition.ok(),
+                     (what + (condition.ok() ? "" : condition.refusal().message.toUtf8())).constData());
+            Result<Cursor> cursor = m_database->select(restricted(base, {condition.value()}));
+            QVERIFY2(cursor.ok(), what.constData());
+            QSet<int> answered, meant;
+            while (cursor.value().next())
+                answered << cursor.value().value(0).toInt();
+            for (int id = 0; id < m_rows.size(); ++id) {
+                if (std::all_of(sample.tests.begin(), sample.tests.end(),
+                                [&](const Test &test) { return test(m_rows.at(id)); }))
+                    meant << id;
+            }
+            for (const int id : (answered - meant) + (meant - answered))
+                QFAIL((what + (meant.contains(id) ? " misses " : " finds ") +
+                       literals(m_rows.at(id), id).toUtf8())
+                          .constData());
+            found += answered.size();
+        }
+        QVERIFY(found > Rounds);
+    }
 
 private:
     ServiceFixture m_fixture;
@@ -283,59 +328,5 @@ private:
     unsigned m_seed = 1;
 };
 
-void TestFilterProperties::initTestCase()
-{
-    beginMessages();
-    if (qEnvironmentVariableIsSet("SUBJECT_TEST_SEED"))
-        m_seed = static_cast<unsigned>(qEnvironmentVariableIntValue("SUBJECT_TEST_SEED"));
-    Generator generator(m_seed);
-    QStringList values;
-    for (int id = 0; id < RowCount; ++id) {
-        m_rows << generator.row();
-        values << literals(m_rows.last(), id);
-    }
-    m_fixture.change({QStringLiteral("CREATE TABLE sample (ID INTEGER, T TEXT, N DOUBLE PRECISION, D TEXT)"),
-                      QStringLiteral("INSERT INTO sample VALUES ") + values.join(QStringLiteral(", "))});
-    m_database = std::make_unique<Database>(m_fixture.databaseAddress());
-    QString fault;
-    QVERIFY2(m_database->open(&fault), qPrintable(fault));
-}
-
-void TestFilterProperties::theDatabaseAnswersAsTheFilterMeans()
-{
-    const BoundSql base{QStringLiteral("SELECT ID, T, N, D FROM sample"), {}};
-    const Columns columns(m_database->select(base).value().columns(),
-                          {{QStringLiteral("T"), ValueKind::Text},
-                           {QStringLiteral("N"), ValueKind::Number},
-                           {QStringLiteral("D"), ValueKind::Date}},
-                          m_database->dialect());
-    int found = 0;
-    for (unsigned seed = m_seed; seed < m_seed + Rounds; ++seed) {
-        const Sample sample = Generator(seed).sample();
-        const QByteArray what = "seed " + QByteArray::number(seed) + ": " + sample.filter.toUtf8() + ' ' +
-                                QJsonDocument(sample.parameters).toJson(QJsonDocument::Compact);
-        const Result<BoundSql> condition = filterCondition(sample.filter, sample.parameters, columns);
-        QVERIFY2(condition.ok(),
-                 (what + (condition.ok() ? "" : condition.refusal().message.toUtf8())).constData());
-        Result<Cursor> cursor = m_database->select(restricted(base, {condition.value()}));
-        QVERIFY2(cursor.ok(), what.constData());
-        QSet<int> answered, meant;
-        while (cursor.value().next())
-            answered << cursor.value().value(0).toInt();
-        for (int id = 0; id < m_rows.size(); ++id) {
-            if (std::all_of(sample.tests.begin(), sample.tests.end(),
-                            [&](const Test &test) { return test(m_rows.at(id)); }))
-                meant << id;
-        }
-        for (const int id : (answered - meant) + (meant - answered))
-            QFAIL(
-                (what + (meant.contains(id) ? " misses " : " finds ") + literals(m_rows.at(id), id).toUtf8())
-                    .constData());
-        found += answered.size();
-    }
-    QVERIFY(found > Rounds);
-}
-
 SUBJECT_TEST_MAIN(TestFilterProperties)
-
 #include "test_filterproperties.moc"

@@ -7,38 +7,6 @@
 
 using namespace service;
 
-class TestRequestHandler : public SubjectTest
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-    void rowsComeAsTheRequestAsks_data();
-    void rowsComeAsTheRequestAsks();
-    void rowsCarryTypedValues();
-    void partsHoldWhatTheFlagAsksFor();
-    void pagesFitTogether();
-    void totalFollowsAChangeOfTheData();
-    void crossRowsHaveAColumnForEachValue();
-    void severalCrossValuesStandInABand();
-    void namedObjectsAreDelivered_data();
-    void namedObjectsAreDelivered();
-    void faultsAreRefused_data();
-    void faultsAreRefused();
-    void textsFromOutsideStayValues();
-    void databaseFaultIsTheServersFault();
-    void theServersOwnTypesAreServed();
-
-private:
-    QJsonObject ask(const QByteArray &body, int status = 200) const;
-    QJsonObject view(const char *body, int status = 200) const;
-
-    std::unique_ptr<ServiceFixture> m_fixture;
-    std::unique_ptr<Database> m_database;
-    std::unique_ptr<ViewLibrary> m_library;
-};
-
 namespace {
 
 /// Values of one field of all rows, joined by blanks.
@@ -48,379 +16,385 @@ QString values(const QJsonValue &rows, const QString &field)
     const QJsonArray array = rows.toArray();
     for (const QJsonValue &row : array) {
         const QJsonValue value = row.toObject().value(field);
-        texts << (value.isUndefined() ? QStringLiteral("-") : value.toVariant().toString());
+        texts << (value.isUndefined() ? "-" : value.toVariant().toString());
     }
-    return texts.join(QLatin1Char(' '));
+    return texts.join(' ');
 }
 
 QString summaryText(const QJsonObject &data)
 {
     QStringList items;
-    const QJsonArray array = data.value(QStringLiteral("Summary")).toArray();
+    const QJsonArray array = data.value("Summary").toArray();
     for (const QJsonValue &value : array) {
         const QJsonObject item = value.toObject();
-        if (item.value(QStringLiteral("value")).isDouble())
-            items << QStringLiteral("%1=%2")
-                         .arg(item.value(QStringLiteral("Item")).toString())
-                         .arg(item.value(QStringLiteral("value")).toInt());
+        if (item.value("value").isDouble())
+            items << QString("%1=%2").arg(item.value("Item").toString()).arg(item.value("value").toInt());
     }
-    return items.join(QLatin1Char(' '));
+    return items.join(' ');
 }
 
 QStringList gridColumns(const QJsonObject &data)
 {
     QStringList lines;
-    const QJsonArray summary = data.value(QStringLiteral("Summary")).toArray();
-    const QByteArray text = summary.last().toObject().value(QStringLiteral("value")).toString().toUtf8();
+    const QJsonArray summary = data.value("Summary").toArray();
+    const QByteArray text = summary.last().toObject().value("value").toString().toUtf8();
     const QJsonArray columns = QJsonDocument::fromJson(text).array();
     for (const QJsonValue &value : columns) {
         const QJsonObject column = value.toObject();
-        lines << QStringLiteral("%1 '%2' in '%3' %4 %5")
-                     .arg(column.value(QStringLiteral("fieldName")).toString(),
-                          column.value(QStringLiteral("caption")).toString(),
-                          column.value(QStringLiteral("ownerBand")).toString(),
-                          column.value(QStringLiteral("columnType")).toString())
-                     .arg(column.value(QStringLiteral("showStatus")).toInt());
+        lines << QString("%1 '%2' in '%3' %4 %5")
+                     .arg(column.value("fieldName").toString(), column.value("caption").toString(),
+                          column.value("ownerBand").toString(), column.value("columnType").toString())
+                     .arg(column.value("showStatus").toInt());
     }
     return lines;
 }
 
 } // namespace
 
-void TestRequestHandler::init()
+class TestRequestHandler : public SubjectTest
 {
-    beginMessages();
-    m_fixture = std::make_unique<ServiceFixture>();
-    m_fixture->writeStandardViews();
-    m_database = std::make_unique<Database>(m_fixture->databaseAddress());
-    QString fault;
-    QVERIFY2(m_database->open(&fault), qPrintable(fault));
-    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
-    QCOMPARE(m_library->faults(), QStringList());
-}
+    Q_OBJECT
 
-void TestRequestHandler::cleanup()
-{
-    m_library.reset();
-    m_database.reset();
-    m_fixture.reset();
-    endMessages();
-}
-
-QJsonObject TestRequestHandler::ask(const QByteArray &body, int status) const
-{
-    const RequestHandler handler(*m_library, Limits());
-    const bool isNamed = body.contains("objId") || body.contains("objName");
-    const Reply reply = isNamed ? handler.namedData(body, Identity(), *m_database)
-                                : handler.subjectData(body, Identity(), *m_database);
-    const QJsonObject envelope = QJsonDocument::fromJson(reply.body).object();
-    if (reply.status != status)
-        qFatal("status %d: %s", reply.status, reply.body.constData());
-    if (envelope.keys() != QStringList{"data", "extend", "msg", "state"})
-        qFatal("no envelope: %s", reply.body.constData());
-    return envelope;
-}
-
-QJsonObject TestRequestHandler::view(const char *body, int status) const
-{
-    return ask(QJsonDocument(object(body)).toJson(), status).value(QStringLiteral("data")).toObject();
-}
-
-void TestRequestHandler::rowsComeAsTheRequestAsks_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("symbols");
-    QTest::addColumn<QString>("summary");
-
-    const auto row = [](const char *name, const char *body, const char *symbols, const char *summary) {
-        testRow(name, QByteArray(body), QString::fromUtf8(symbols), QString::fromUtf8(summary));
-    };
-    row("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
-    row("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
-    row("page behind the end", "'page': 9, 'size': 5", "", "rcount=12 pindex=9 psize=5");
-    row("all rows", "'filter': '(PRICE > 13.5)'", "S12 S11 S10", "rcount=3 pindex=1 psize=3");
-    row("no rows", "'filter': '(PRICE > 999)'", "", "rcount=0 pindex=1 psize=1");
-    row("order of the request", "'order': {'SYMBOL': 1}, 'page': 1, 'size': 2", "S01 S02",
-        "rcount=12 pindex=1 psize=2");
-    row("terms in the view's sequence", "'order': {'SECTOR': 1, 'PRICE': -1}, 'page': 1, 'size': 2",
-        "S12 S11", "rcount=12 pindex=1 psize=2");
-    row("key breaks ties", "'order': {'SECTOR': -1}, 'page': 1, 'size': 2", "S03 S06",
-        "rcount=12 pindex=1 psize=2");
-    row("named parameter", "'EXCHANGE': 'B', 'page': 1, 'size': 2", "S12 S10", "rcount=6 pindex=1 psize=2");
-    row("number parameter as text", "'TOP': '1', 'page': 1, 'size': 2", "S10 S07",
-        "rcount=4 pindex=1 psize=2");
-    row("filter", "'filter': '(NAME like :N) && (SECTOR == :S)', 'filterParams': {'N': '1', 'S': 2}", "S11",
-        "rcount=1 pindex=1 psize=1");
-    row("blocks", "'filterBlock': [3, '2'], 'page': 1, 'size': 2", "S12 S11", "rcount=8 pindex=1 psize=2");
-    row("blocks beside a filter", "'filterBlock': [3], 'filter': '(PRICE < 6)'", "S03",
-        "rcount=1 pindex=1 psize=1");
-    row("no block checked", "'filterBlock': [], 'page': 1, 'size': 1", "S12", "rcount=12 pindex=1 psize=1");
-    row("other keys of the client", "'auth': {'userId': 'u'}, 'keywords': 'x', 'page': 1, 'size': 1", "S12",
-        "rcount=12 pindex=1 psize=1");
-}
-
-void TestRequestHandler::rowsComeAsTheRequestAsks()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(QString, symbols);
-    QFETCH(QString, summary);
-
-    const QJsonObject data = view("{'obj_vw_id': 10, 'flag': 1, " + body + "}");
-
-    QCOMPARE(values(data.value(QStringLiteral("Data")), QStringLiteral("SYMBOL")), symbols);
-    QCOMPARE(summaryText(data), summary);
-}
-
-void TestRequestHandler::rowsCarryTypedValues()
-{
-    const QJsonObject request = object(
-        "{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL in :S)', 'filterParams': {'S': ['S03', 'S05']}}");
-    const Reply reply = RequestHandler(*m_library, Limits())
-                            .subjectData(QJsonDocument(request).toJson(), Identity(), *m_database);
-
-    const QByteArray third =
-        QByteArray::number(QDateTime(QDate(2020, 1, 3), QTime(15, 30)).toMSecsSinceEpoch());
-    const QByteArray fifth =
-        QByteArray::number(QDateTime(QDate(2020, 1, 5), QTime(0, 0)).toMSecsSinceEpoch());
-    const QByteArray rows = "{'SYMBOL':'S03','NAME':'名|'03|||t','SECTOR':3,'PRICE':4.5,'DAY':" + third +
-                            "},{'SYMBOL':'S05','NAME':'名|'05|||t','SECTOR':2,'PRICE':null,'DAY':" + fifth +
-                            '}';
-    QByteArray expected =
-        "{'state':1,'msg':'','extend':null,'data':{'Data':[" + rows +
-        "],'Summary':[{'Item':'rcount','value':2},{'Item':'pindex','value':1},{'Item':'psize','value':2}]}}";
-    expected.replace('\'', '"').replace('|', '\\');
-    QCOMPARE(reply.body, expected);
-}
-
-void TestRequestHandler::partsHoldWhatTheFlagAsksFor()
-{
-    QCOMPARE(view("{'obj_vw_id': 10, 'flag': 0}").keys().join(QLatin1Char(' ')),
-             QStringLiteral("Object_View Object_View_Config View_Config"));
-    QCOMPARE(view("{'obj_vw_id': '10', 'flag': '1'}").keys().join(QLatin1Char(' ')),
-             QStringLiteral("Data Summary"));
-    QCOMPARE(view("{'obj_vw_id': 10, 'flag': 2}").keys().join(QLatin1Char(' ')),
-             QStringLiteral("Data Object_View Object_View_Config Summary View_Config"));
-}
-
-void TestRequestHandler::pagesFitTogether()
-{
-    QStringList symbols;
-    for (int page = 1; page <= 5; ++page) {
-        const QByteArray body = "{'obj_vw_id': 11, 'flag': 1, 'size': 3, 'order': {'SECTOR': 1}, 'page': " +
-                                QByteArray::number(page) + '}';
-        symbols << values(view(body).value(QStringLiteral("Data")), QStringLiteral("SYMBOL"));
+private slots:
+    void init()
+    {
+        beginMessages();
+        m_fixture = std::make_unique<ServiceFixture>();
+        m_fixture->writeStandardViews();
+        m_database = std::make_unique<Database>(m_fixture->databaseAddress());
+        QString fault;
+        QVERIFY2(m_database->open(&fault), qPrintable(fault));
+        m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+        QCOMPARE(m_library->faults(), QStringList());
     }
 
-    QCOMPARE(symbols.join(QLatin1Char('|')),
-             QStringLiteral("S01 S04 S07|S10 S02 S05|S08 S11 S03|S06 S09 S12|"));
-}
+    void cleanup()
+    {
+        m_library.reset();
+        m_database.reset();
+        m_fixture.reset();
+        endMessages();
+    }
 
-void TestRequestHandler::totalFollowsAChangeOfTheData()
-{
-    const char *body = "{'obj_vw_id': 10, 'flag': 1, 'page': 1, 'size': 2}";
-    QCOMPARE(summaryText(view(body)), QStringLiteral("rcount=12 pindex=1 psize=2"));
+    void rowsComeAsTheRequestAsks_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("symbols");
+        QTest::addColumn<QString>("summary");
 
-    m_fixture->change({QStringLiteral("DELETE FROM price WHERE SYMBOL > 'S09'")});
+        const auto row = [](const char *name, const char *body, const char *symbols, const char *summary) {
+            testRow(name, QByteArray(body), QString::fromUtf8(symbols), QString::fromUtf8(summary));
+        };
+        row("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
+        row("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
+        row("page behind the end", "'page': 9, 'size': 5", "", "rcount=12 pindex=9 psize=5");
+        row("all rows", "'filter': '(PRICE > 13.5)'", "S12 S11 S10", "rcount=3 pindex=1 psize=3");
+        row("no rows", "'filter': '(PRICE > 999)'", "", "rcount=0 pindex=1 psize=1");
+        row("order of the request", "'order': {'SYMBOL': 1}, 'page': 1, 'size': 2", "S01 S02",
+            "rcount=12 pindex=1 psize=2");
+        row("terms in the view's sequence", "'order': {'SECTOR': 1, 'PRICE': -1}, 'page': 1, 'size': 2",
+            "S12 S11", "rcount=12 pindex=1 psize=2");
+        row("key breaks ties", "'order': {'SECTOR': -1}, 'page': 1, 'size': 2", "S03 S06",
+            "rcount=12 pindex=1 psize=2");
+        row("named parameter", "'EXCHANGE': 'B', 'page': 1, 'size': 2", "S12 S10",
+            "rcount=6 pindex=1 psize=2");
+        row("number parameter as text", "'TOP': '1', 'page': 1, 'size': 2", "S10 S07",
+            "rcount=4 pindex=1 psize=2");
+        row("filter", "'filter': '(NAME like :N) && (SECTOR == :S)', 'filterParams': {'N': '1', 'S': 2}",
+            "S11", "rcount=1 pindex=1 psize=1");
+        row("blocks", "'filterBlock': [3, '2'], 'page': 1, 'size': 2", "S12 S11",
+            "rcount=8 pindex=1 psize=2");
+        row("blocks beside a filter", "'filterBlock': [3], 'filter': '(PRICE < 6)'", "S03",
+            "rcount=1 pindex=1 psize=1");
+        row("no block checked", "'filterBlock': [], 'page': 1, 'size': 1", "S12",
+            "rcount=12 pindex=1 psize=1");
+        row("other keys of the client", "'auth': {'userId': 'u'}, 'keywords': 'x', 'page': 1, 'size': 1",
+            "S12", "rcount=12 pindex=1 psize=1");
+    }
 
-    QCOMPARE(summaryText(view(body)), QStringLiteral("rcount=9 pindex=1 psize=2"));
-}
+    void rowsComeAsTheRequestAsks()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, symbols);
+        QFETCH(QString, summary);
 
-void TestRequestHandler::crossRowsHaveAColumnForEachValue()
-{
-    const QJsonObject data = view("{'obj_vw_id': 12, 'flag': 2}");
+        const QJsonObject data = view("{'obj_vw_id': 10, 'flag': 1, " + body + "}");
 
-    QCOMPARE(gridColumns(data),
-             QStringList({QStringLiteral("D '日' in '' BandedGridColumn 1"),
-                          QStringLiteral("BAND_1 '利率' in '' Band 1"),
-                          QStringLiteral("3月__RATE '期限3月' in 'BAND_1' BandedGridColumn 1"),
-                          QStringLiteral("1年__RATE '期限1年' in 'BAND_1' BandedGridColumn 1"),
-                          QStringLiteral("10年__RATE '期限10年' in 'BAND_1' BandedGridColumn 1")}));
-    const QJsonValue rows = data.value(QStringLiteral("Data"));
-    QCOMPARE(values(rows, QStringLiteral("10年__RATE")), QStringLiteral("3.2 3.1"));
-    QCOMPARE(values(rows, QStringLiteral("3月__RATE")), QStringLiteral("- 1.5"));
-    QCOMPARE(summaryText(data), QStringLiteral("rcount=2 pindex=1 psize=2"));
-    QCOMPARE(summaryText(view("{'obj_vw_id': 12, 'flag': 1, 'page': 2, 'size': 1, 'filter': '(N >= 1)'}")),
-             QStringLiteral("rcount=2 pindex=2 psize=1"));
-}
+        QCOMPARE(values(data.value("Data"), "SYMBOL"), symbols);
+        QCOMPARE(summaryText(data), summary);
+    }
 
-void TestRequestHandler::severalCrossValuesStandInABand()
-{
-    m_fixture->write(QStringLiteral("13.json"), object(R"({
-        'id': 13, 'name': 'x', 'sql': 'SELECT D, TENOR, RATE, VOL FROM curve WHERE N >= 1',
-        'properties': {'IsCrossSortByDesc': true},
-        'bands': [{'FieldName': 'RATE', 'Caption': '率'}, {'FieldName': 'VOL', 'Caption': '量', 'Visible': false},
-                  {'FieldName': 'D', 'Caption': '日'}],
-        'cross': {'rows': ['D'], 'column': 'TENOR', 'values': ['RATE', 'VOL']}})"));
-    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
-    QCOMPARE(m_library->faults(), QStringList());
+    void rowsCarryTypedValues()
+    {
+        const QJsonObject request = object("{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL in :S)', "
+                                           "'filterParams': {'S': ['S03', 'S05']}}");
+        const Reply reply = RequestHandler(*m_library, Limits())
+                                .subjectData(QJsonDocument(request).toJson(), Identity(), *m_database);
 
-    const QJsonObject data = view("{'obj_vw_id': 13, 'flag': 2}");
+        const QByteArray third =
+            QByteArray::number(QDateTime(QDate(2020, 1, 3), QTime(15, 30)).toMSecsSinceEpoch());
+        const QByteArray fifth =
+            QByteArray::number(QDateTime(QDate(2020, 1, 5), QTime(0, 0)).toMSecsSinceEpoch());
+        const QByteArray rows =
+            "{'SYMBOL':'S03','NAME':'名|'03|||t','SECTOR':3,'PRICE':4.5,'DAY':" + third +
+            "},{'SYMBOL':'S05','NAME':'名|'05|||t','SECTOR':2,'PRICE':null,'DAY':" + fifth + '}';
+        QByteArray expected = "{'state':1,'msg':'','extend':null,'data':{'Data':[" + rows +
+                              "],'Summary':[{'Item':'rcount','value':2},{'Item':'pindex','value':1},{'Item':'"
+                              "psize','value':2}]}}";
+        expected.replace('\'', '"').replace('|', '\\');
+        QCOMPARE(reply.body, expected);
+    }
 
-    QCOMPARE(gridColumns(data),
-             QStringList({QStringLiteral("BAND_1年 '1年' in '' Band 1"),
-                          QStringLiteral("1年__RATE '率' in 'BAND_1年' BandedGridColumn 1"),
-                          QStringLiteral("1年__VOL '量' in 'BAND_1年' BandedGridColumn 0"),
-                          QStringLiteral("BAND_10年 '10年' in '' Band 1"),
-                          QStringLiteral("10年__RATE '率' in 'BAND_10年' BandedGridColumn 1"),
-                          QStringLiteral("10年__VOL '量' in 'BAND_10年' BandedGridColumn 0"),
-                          QStringLiteral("D '日' in '' BandedGridColumn 1")}));
-    QCOMPARE(values(data.value(QStringLiteral("Data")), QStringLiteral("10年__VOL")), QStringLiteral("5 8"));
-}
+    void partsHoldWhatTheFlagAsksFor()
+    {
+        QCOMPARE(view("{'obj_vw_id': 10, 'flag': 0}").keys().join(' '),
+                 "Object_View Object_View_Config View_Config");
+        QCOMPARE(view("{'obj_vw_id': '10', 'flag': '1'}").keys().join(' '), "Data Summary");
+        QCOMPARE(view("{'obj_vw_id': 10, 'flag': 2}").keys().join(' '),
+                 "Data Object_View Object_View_Config Summary View_Config");
+    }
 
-void TestRequestHandler::namedObjectsAreDelivered_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("expected");
+    void pagesFitTogether()
+    {
+        QStringList symbols;
+        for (int page = 1; page <= 5; ++page) {
+            const QByteArray body =
+                "{'obj_vw_id': 11, 'flag': 1, 'size': 3, 'order': {'SECTOR': 1}, 'page': " +
+                QByteArray::number(page) + '}';
+            symbols << values(view(body).value("Data"), "SYMBOL");
+        }
 
-    const auto row = [](const char *name, const char *body, const char *field, const char *expected) {
-        testRow(name, QByteArray(body), QString::fromUtf8(field), QString::fromUtf8(expected));
-    };
-    row("codes of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_CODE", "2 3 4 5 2");
-    row("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
-    row("levels of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "LEVEL", "0 1 2 2 -");
-    row("views of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "OBJ_VW_ID", "0 0 10 0 -");
-    row("addresses of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_URL", "   http://x/ -");
-    row("constants behind the tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NAME", "- - - - 亚洲");
-    row("constants", "{'objId': 390}", "VALUE", "1");
-    row("blocks of a type", "{'objId': 43, 'filter': '(SECU_TYP_CODE == :T)', 'filterParams': {'T': 10}}",
-        "SECT_NAME", "甲 乙");
-    row("parents of blocks", "{'objId': 43}", "P_SECT_ID", "0 1 0");
-    row("list from SQL", "{'objName': 'NAMES', 'filter': '', 'filterParams': {}}", "NAME", "A B");
-    row("list from SQL, filtered",
-        "{'objName': 'NAMES', 'filter': '(VALUE != :V)', 'filterParams': {'V': 'A'}}", "NAME", "B");
-    row("written list", "{'objName': 'WRITTEN', 'filter': '(NAME nin :N)', 'filterParams': {'N': '甲'}}",
-        "NAME", "乙");
-}
+        QCOMPARE(symbols.join('|'), "S01 S04 S07|S10 S02 S05|S08 S11 S03|S06 S09 S12|");
+    }
 
-void TestRequestHandler::namedObjectsAreDelivered()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(QString, field);
-    QFETCH(QString, expected);
+    void totalFollowsAChangeOfTheData()
+    {
+        const char *body = "{'obj_vw_id': 10, 'flag': 1, 'page': 1, 'size': 2}";
+        QCOMPARE(summaryText(view(body)), "rcount=12 pindex=1 psize=2");
 
-    const QJsonObject reply = ask(QJsonDocument(object(body)).toJson());
+        m_fixture->change({"DELETE FROM price WHERE SYMBOL > 'S09'"});
 
-    QCOMPARE(values(reply.value(QStringLiteral("data")), field), expected);
-}
+        QCOMPARE(summaryText(view(body)), "rcount=9 pindex=1 psize=2");
+    }
 
-void TestRequestHandler::faultsAreRefused_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("message");
+    void crossRowsHaveAColumnForEachValue()
+    {
+        const QJsonObject data = view("{'obj_vw_id': 12, 'flag': 2}");
 
-    const auto row = [](QByteArray body, const char *message) {
-        testRow(message, body.replace('\'', '"'), QString::fromUtf8(message));
-    };
-    const auto viewRow = [&row](const char *members, const char *message) {
-        row(QByteArray("{'obj_vw_id': 10, 'flag': 1, ") + members + '}', message);
-    };
-    row("", "body: byte ");
-    row("[1]", "body: expected an object");
-    row("{'flag':1,", "body: byte 1");
-    row(QByteArray(100, '['), "body: nested more than 16 deep");
-    row("{'a': {'b': [1], 'c': 1, '\\u0062': []}}", "body: byte 26: the key \"b\" stands twice");
-    row("{}", "obj_vw_id: expected a whole number");
-    row("{'obj_vw_id': 1e300, 'flag': 1}", "obj_vw_id: expected");
-    row("{'obj_vw_id': 99, 'flag': 1}", "obj_vw_id: no view 99");
-    row("{'obj_vw_id': 10, 'flag': 3}", "flag: expected 0, 1 or 2");
-    viewRow("'page': 0, 'size': 5", "page: expected 1 to");
-    viewRow("'page': 1, 'size': 1000000", "size: expected 1 to 100000, found 1000000");
-    viewRow("'filter': ['x']", "filter: expected a text");
-    viewRow("'filterParams': 'x'", "filterParams: expected an object");
-    viewRow("'filter': '(X == 1)'", "filter: position 2: no field \"X\"");
-    viewRow("'order': 'SYMBOL'", "order: expected an object");
-    viewRow("'order': {'SYMBOL': 2}", "order.SYMBOL: expected 1 or -1");
-    viewRow("'order': {'X': 1}", "order: no field \"X\"");
-    viewRow("'filterBlock': 3", "filterBlock: expected an array");
-    viewRow("'filterBlock': [{}]", "filterBlock[0]: expected a code");
-    viewRow("'TOP': 'x'", "TOP: \"x\" is no number");
-    viewRow("'TOP': [1]", "TOP: expected a text or a number");
-    viewRow("'EXCHANGE': '[2020-99-99]'", "EXCHANGE: \"[2020-99-99]\" is no date");
-    row("{'objId': 7}", "objId: no object 7");
-    row("{'objId': 38, 'P_NODE_CODE': 9}", "P_NODE_CODE: no topic 9");
-    row("{'objId': 43, 'filter': '(Y == 1)'}", "filter: position 2: no field \"Y\"");
-    row("{'objName': 'NOPE'}", "objName: no list \"NOPE\"");
-}
+        QCOMPARE(gridColumns(data),
+                 QStringList({"D '日' in '' BandedGridColumn 1", "BAND_1 '利率' in '' Band 1",
+                              "3月__RATE '期限3月' in 'BAND_1' BandedGridColumn 1",
+                              "1年__RATE '期限1年' in 'BAND_1' BandedGridColumn 1",
+                              "10年__RATE '期限10年' in 'BAND_1' BandedGridColumn 1"}));
+        const QJsonValue rows = data.value("Data");
+        QCOMPARE(values(rows, "10年__RATE"), "3.2 3.1");
+        QCOMPARE(values(rows, "3月__RATE"), "- 1.5");
+        QCOMPARE(summaryText(data), "rcount=2 pindex=1 psize=2");
+        QCOMPARE(
+            summaryText(view("{'obj_vw_id': 12, 'flag': 1, 'page': 2, 'size': 1, 'filter': '(N >= 1)'}")),
+            "rcount=2 pindex=2 psize=1");
+    }
 
-void TestRequestHandler::faultsAreRefused()
-{
-    QFETCH(QByteArray, body);
-    QFETCH(QString, message);
+    void severalCrossValuesStandInABand()
+    {
+        m_fixture->write("13.json", object(R"({
+            'id': 13, 'name': 'x', 'sql': 'SELECT D, TENOR, RATE, VOL FROM curve WHERE N >= 1',
+            'properties': {'IsCrossSortByDesc': true},
+            'bands': [{'FieldName': 'RATE', 'Caption': '率'}, {'FieldName': 'VOL', 'Caption': '量', 'Visible': false},
+                      {'FieldName': 'D', 'Caption': '日'}],
+            'cross': {'rows': ['D'], 'column': 'TENOR', 'values': ['RATE', 'VOL']}})"));
+        m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+        QCOMPARE(m_library->faults(), QStringList());
 
-    const QJsonObject reply = ask(body, 400);
+        const QJsonObject data = view("{'obj_vw_id': 13, 'flag': 2}");
 
-    QCOMPARE(reply.value(QStringLiteral("state")).toInt(), -400);
-    const QString found = reply.value(QStringLiteral("msg")).toString();
-    QVERIFY2(found.startsWith(message), qPrintable(found));
-}
+        QCOMPARE(
+            gridColumns(data),
+            QStringList({"BAND_1年 '1年' in '' Band 1", "1年__RATE '率' in 'BAND_1年' BandedGridColumn 1",
+                         "1年__VOL '量' in 'BAND_1年' BandedGridColumn 0", "BAND_10年 '10年' in '' Band 1",
+                         "10年__RATE '率' in 'BAND_10年' BandedGridColumn 1",
+                         "10年__VOL '量' in 'BAND_10年' BandedGridColumn 0",
+                         "D '日' in '' BandedGridColumn 1"}));
+        QCOMPARE(values(data.value("Data"), "10年__VOL"), "5 8");
+    }
 
-void TestRequestHandler::textsFromOutsideStayValues()
-{
-    const QString attack = QStringLiteral("x' OR 1=1; DROP TABLE price; --");
-    QJsonObject body = object("{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL == :S)'}");
-    body.insert(QStringLiteral("filterParams"), QJsonObject{{QStringLiteral("S"), attack}});
-    const auto rows = [this](const QJsonObject &request) {
-        return summaryText(ask(QJsonDocument(request).toJson()).value(QStringLiteral("data")).toObject());
-    };
+    void namedObjectsAreDelivered_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("expected");
 
-    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
-    body = object("{'obj_vw_id': 10, 'flag': 1}");
-    body.insert(QStringLiteral("EXCHANGE"), attack);
-    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
-    body = object("{'obj_vw_id': 10, 'flag': 1}");
-    body.insert(QStringLiteral("filterBlock"), QJsonArray{attack});
-    QCOMPARE(rows(body), QStringLiteral("rcount=0 pindex=1 psize=1"));
-    body = object("{'obj_vw_id': 10, 'flag': 1}");
-    body.insert(QStringLiteral("order"), QJsonObject{{QStringLiteral("SYMBOL\" DESC; --"), 1}});
-    ask(QJsonDocument(body).toJson(), 400);
-    QCOMPARE(rows(object("{'obj_vw_id': 10, 'flag': 1}")), QStringLiteral("rcount=12 pindex=1 psize=12"));
-}
+        const auto row = [](const char *name, const char *body, const char *field, const char *expected) {
+            testRow(name, QByteArray(body), QString::fromUtf8(field), QString::fromUtf8(expected));
+        };
+        row("codes of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_CODE", "2 3 4 5 2");
+        row("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
+        row("levels of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "LEVEL", "0 1 2 2 -");
+        row("views of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "OBJ_VW_ID", "0 0 10 0 -");
+        row("addresses of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_URL", "   http://x/ -");
+        row("constants behind the tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NAME", "- - - - 亚洲");
+        row("constants", "{'objId': 390}", "VALUE", "1");
+        row("blocks of a type", "{'objId': 43, 'filter': '(SECU_TYP_CODE == :T)', 'filterParams': {'T': 10}}",
+            "SECT_NAME", "甲 乙");
+        row("parents of blocks", "{'objId': 43}", "P_SECT_ID", "0 1 0");
+        row("list from SQL", "{'objName': 'NAMES', 'filter': '', 'filterParams': {}}", "NAME", "A B");
+        row("list from SQL, filtered",
+            "{'objName': 'NAMES', 'filter': '(VALUE != :V)', 'filterParams': {'V': 'A'}}", "NAME", "B");
+        row("written list", "{'objName': 'WRITTEN', 'filter': '(NAME nin :N)', 'filterParams': {'N': '甲'}}",
+            "NAME", "乙");
+    }
 
-void TestRequestHandler::databaseFaultIsTheServersFault()
-{
-    m_fixture->change({QStringLiteral("DROP TABLE price")});
-    expectWarning(ServiceFixture::isPostgres() ? QStringLiteral("relation \"price\" does not exist")
-                                               : QStringLiteral("no such table: price"));
+    void namedObjectsAreDelivered()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, field);
+        QFETCH(QString, expected);
 
-    const QJsonObject reply = ask("{\"obj_vw_id\":10,\"flag\":1}", 500);
+        const QJsonObject reply = ask(QJsonDocument(object(body)).toJson());
 
-    QVERIFY(!reply.value(QStringLiteral("msg")).toString().contains(QStringLiteral("price")));
-    QCOMPARE(view("{'obj_vw_id': 12, 'flag': 1}").isEmpty(), false);
-}
+        QCOMPARE(values(reply.value("data"), field), expected);
+    }
 
-void TestRequestHandler::theServersOwnTypesAreServed()
-{
-    if (!ServiceFixture::isPostgres())
-        QSKIP("SQLite has no such types");
-    m_fixture->change(
-        {QStringLiteral("CREATE TABLE kinds (u uuid, d date, t timestamptz, b boolean, n numeric)"),
-         QStringLiteral("INSERT INTO kinds SELECT CAST(md5(CAST(i AS text)) AS uuid), date '2020-01-01' + i,"
-                        " timestamp '2020-01-01 12:00:00.25' + i * interval '1 day', i % 2 = 0, i / 4.0"
-                        " FROM generate_series(1, 4) i")});
-    m_fixture->write(QStringLiteral("14.json"), object(R"({
-        'id': 14, 'name': 'x', 'sql': 'SELECT * FROM kinds', 'key': 'U', 'block': 'U',
-        'bands': [{'FieldName': 'U'}, {'FieldName': 'N', 'ValueType': 'Decimal'}, {'FieldName': 'B', 'ValueType': 'Int32'},
-                  {'FieldName': 'D', 'ValueType': 'DateTime'}, {'FieldName': 'T', 'ValueType': 'DateTime'}]})"));
-    m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
-    QCOMPARE(m_library->faults(), QStringList());
-    const auto numbers = [this](const QByteArray &more) {
-        return values(view("{'obj_vw_id': 14, 'flag': 1" + more + "}").value(QStringLiteral("Data")),
-                      QStringLiteral("N"));
-    };
+    void faultsAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("message");
 
-    QCOMPARE(numbers(", 'order': {'T': 1}, 'filter': '(D >= [2020-01-03]) && (T != [2020-01-04])'"),
-             "0.5 0.75 1");
-    QCOMPARE(numbers(", 'order': {'B': 1, 'D': -1}"), QStringLiteral("0.75 0.25 1 0.5"));
-    QCOMPARE(numbers(", 'filter': '(B == 1) && (N < 0.75)'"), QStringLiteral("0.5"));
-    QCOMPARE(numbers(", 'filter': '(U like :U)', 'filterParams': {'U': 'C4CA'}"), QStringLiteral("0.25"));
-    QCOMPARE(numbers(", 'filterBlock': ['c4ca4238-a0b9-2382-0dcc-509a6f75849b', 3]"), QStringLiteral("0.25"));
-    const QJsonArray rows =
-        view("{'obj_vw_id': 14, 'flag': 1, 'order': {'D': 1}}").value(QStringLiteral("Data")).toArray();
-    const QDateTime noon(QDate(2020, 1, 2), QTime(12, 0));
-    QCOMPARE(rows.first().toObject().value(QStringLiteral("T")).toDouble(), double(noon.toMSecsSinceEpoch()));
-}
+        const auto row = [](QByteArray body, const char *message) {
+            testRow(message, body.replace('\'', '"'), QString::fromUtf8(message));
+        };
+        const auto viewRow = [&row](const char *members, const char *message) {
+            row(QByteArray("{'obj_vw_id': 10, 'flag': 1, ") + members + '}', message);
+        };
+        row("", "body: byte ");
+        row("[1]", "body: expected an object");
+        row("{'flag':1,", "body: byte 1");
+        row(QByteArray(100, '['), "body: nested more than 16 deep");
+        row("{'a': {'b': [1], 'c': 1, '\\u0062': []}}", "body: byte 26: the key \"b\" stands twice");
+        row("{}", "obj_vw_id: expected a whole number");
+        row("{'obj_vw_id': 1e300, 'flag': 1}", "obj_vw_id: expected");
+        row("{'obj_vw_id': 99, 'flag': 1}", "obj_vw_id: no view 99");
+        row("{'obj_vw_id': 10, 'flag': 3}", "flag: expected 0, 1 or 2");
+        viewRow("'page': 0, 'size': 5", "page: expected 1 to");
+        viewRow("'page': 1, 'size': 1000000", "size: expected 1 to 100000, found 1000000");
+        viewRow("'filter': ['x']", "filter: expected a text");
+        viewRow("'filterParams': 'x'", "filterParams: expected an object");
+        viewRow("'filter': '(X == 1)'", "filter: position 2: no field \"X\"");
+        viewRow("'order': 'SYMBOL'", "order: expected an object");
+        viewRow("'order': {'SYMBOL': 2}", "order.SYMBOL: expected 1 or -1");
+        viewRow("'order': {'X': 1}", "order: no field \"X\"");
+        viewRow("'filterBlock': 3", "filterBlock: expected an array");
+        viewRow("'filterBlock': [{}]", "filterBlock[0]: expected a code");
+        viewRow("'TOP': 'x'", "TOP: \"x\" is no number");
+        viewRow("'TOP': [1]", "TOP: expected a text or a number");
+        viewRow("'EXCHANGE': '[2020-99-99]'", "EXCHANGE: \"[2020-99-99]\" is no date");
+        row("{'objId': 7}", "objId: no object 7");
+        row("{'objId': 38, 'P_NODE_CODE': 9}", "P_NODE_CODE: no topic 9");
+        row("{'objId': 43, 'filter': '(Y == 1)'}", "filter: position 2: no field \"Y\"");
+        row("{'objName': 'NOPE'}", "objName: no list \"NOPE\"");
+    }
+
+    void faultsAreRefused()
+    {
+        QFETCH(QByteArray, body);
+        QFETCH(QString, message);
+
+        const QJsonObject reply = ask(body, 400);
+
+        QCOMPARE(reply.value("state").toInt(), -400);
+        const QString found = reply.value("msg").toString();
+        QVERIFY2(found.startsWith(message), qPrintable(found));
+    }
+
+    void textsFromOutsideStayValues()
+    {
+        const QString attack = "x' OR 1=1; DROP TABLE price; --";
+        QJsonObject body = object("{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL == :S)'}");
+        body.insert("filterParams", QJsonObject{{"S", attack}});
+        const auto rows = [this](const QJsonObject &request) {
+            return summaryText(ask(QJsonDocument(request).toJson()).value("data").toObject());
+        };
+
+        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
+        body = object("{'obj_vw_id': 10, 'flag': 1}");
+        body.insert("EXCHANGE", attack);
+        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
+        body = object("{'obj_vw_id': 10, 'flag': 1}");
+        body.insert("filterBlock", QJsonArray{attack});
+        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
+        body = object("{'obj_vw_id': 10, 'flag': 1}");
+        body.insert("order", QJsonObject{{"SYMBOL\" DESC; --", 1}});
+        ask(QJsonDocument(body).toJson(), 400);
+        QCOMPARE(rows(object("{'obj_vw_id': 10, 'flag': 1}")), "rcount=12 pindex=1 psize=12");
+    }
+
+    void databaseFaultIsTheServersFault()
+    {
+        m_fixture->change({"DROP TABLE price"});
+        expectWarning(ServiceFixture::isPostgres() ? "relation \"price\" does not exist"
+                                                   : "no such table: price");
+
+        const QJsonObject reply = ask("{\"obj_vw_id\":10,\"flag\":1}", 500);
+
+        QVERIFY(!reply.value("msg").toString().contains("price"));
+        QCOMPARE(view("{'obj_vw_id': 12, 'flag': 1}").isEmpty(), false);
+    }
+
+    void theServersOwnTypesAreServed()
+    {
+        if (!ServiceFixture::isPostgres())
+            QSKIP("SQLite has no such types");
+        m_fixture->change(
+            {"CREATE TABLE kinds (u uuid, d date, t timestamptz, b boolean, n numeric)",
+             "INSERT INTO kinds SELECT CAST(md5(CAST(i AS text)) AS uuid), date '2020-01-01' + i,"
+             " timestamp '2020-01-01 12:00:00.25' + i * interval '1 day', i % 2 = 0, i / 4.0"
+             " FROM generate_series(1, 4) i"});
+        m_fixture->write("14.json", object(R"({
+            'id': 14, 'name': 'x', 'sql': 'SELECT * FROM kinds', 'key': 'U', 'block': 'U',
+            'bands': [{'FieldName': 'U'}, {'FieldName': 'N', 'ValueType': 'Decimal'}, {'FieldName': 'B', 'ValueType': 'Int32'},
+                      {'FieldName': 'D', 'ValueType': 'DateTime'}, {'FieldName': 'T', 'ValueType': 'DateTime'}]})"));
+        m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
+        QCOMPARE(m_library->faults(), QStringList());
+        const auto numbers = [this](const QByteArray &more) {
+            return values(view("{'obj_vw_id': 14, 'flag': 1" + more + "}").value("Data"), "N");
+        };
+
+        QCOMPARE(numbers(", 'order': {'T': 1}, 'filter': '(D >= [2020-01-03]) && (T != [2020-01-04])'"),
+                 "0.5 0.75 1");
+        QCOMPARE(numbers(", 'order': {'B': 1, 'D': -1}"), "0.75 0.25 1 0.5");
+        QCOMPARE(numbers(", 'filter': '(B == 1) && (N < 0.75)'"), "0.5");
+        QCOMPARE(numbers(", 'filter': '(U like :U)', 'filterParams': {'U': 'C4CA'}"), "0.25");
+        QCOMPARE(numbers(", 'filterBlock': ['c4ca4238-a0b9-2382-0dcc-509a6f75849b', 3]"), "0.25");
+        const QJsonArray rows =
+            view("{'obj_vw_id': 14, 'flag': 1, 'order': {'D': 1}}").value("Data").toArray();
+        const QDateTime noon(QDate(2020, 1, 2), QTime(12, 0));
+        QCOMPARE(rows.first().toObject().value("T").toDouble(), double(noon.toMSecsSinceEpoch()));
+    }
+
+private:
+    QJsonObject ask(const QByteArray &body, int status = 200) const
+    {
+        const RequestHandler handler(*m_library, Limits());
+        const bool isNamed = body.contains("objId") || body.contains("objName");
+        const Reply reply = isNamed ? handler.namedData(body, Identity(), *m_database)
+                                    : handler.subjectData(body, Identity(), *m_database);
+        const QJsonObject envelope = QJsonDocument::fromJson(reply.body).object();
+        if (reply.status != status)
+            qFatal("status %d: %s", reply.status, reply.body.constData());
+        if (envelope.keys() != QStringList{"data", "extend", "msg", "state"})
+            qFatal("no envelope: %s", reply.body.constData());
+        return envelope;
+    }
+
+    QJsonObject view(const char *body, int status = 200) const
+    {
+        return ask(QJsonDocument(object(body)).toJson(), status).value("data").toObject();
+    }
+
+    std::unique_ptr<ServiceFixture> m_fixture;
+    std::unique_ptr<Database> m_database;
+    std::unique_ptr<ViewLibrary> m_library;
+};
 
 SUBJECT_TEST_MAIN(TestRequestHandler)
-
 #include "test_requesthandler.moc"

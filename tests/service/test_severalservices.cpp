@@ -20,17 +20,16 @@ public:
         free.listen(QHostAddress::LocalHost);
         m_port = free.serverPort();
         free.close();
-        const QString name = fixture.filePath(QStringLiteral("nginx.conf"));
+        const QString name = fixture.filePath("nginx.conf");
         QFile file(name);
         if (file.open(QIODevice::WriteOnly))
             file.write(configuration(first, second));
         file.close();
         // Ends with the test, however that ends.
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(QStringLiteral("setpriv"),
-                        {"--pdeathsig", "KILL", "/usr/sbin/nginx", "-p", fixture.filePath({}), "-c", name,
-                         "-e", "stderr", "-g",
-                         "daemon off; master_process off; pid nginx.pid; error_log stderr crit;"});
+        m_process.start("setpriv", {"--pdeathsig", "KILL", "/usr/sbin/nginx", "-p", fixture.filePath({}),
+                                    "-c", name, "-e", "stderr", "-g",
+                                    "daemon off; master_process off; pid nginx.pid; error_log stderr crit;"});
     }
 
     ~RunningProxy()
@@ -45,7 +44,7 @@ public:
     {
         QTcpSocket socket;
         for (int i = 0; i < 200 && m_process.state() != QProcess::NotRunning; ++i) {
-            socket.connectToHost(QStringLiteral("127.0.0.1"), m_port);
+            socket.connectToHost("127.0.0.1", m_port);
             if (socket.waitForConnected(1000))
                 return true;
             QTest::qWait(50);
@@ -59,14 +58,14 @@ private:
         QFile sample(QStringLiteral(PROJECT_SOURCE_DIR "/service/deploy/nginx.conf"));
         sample.open(QIODevice::ReadOnly);
         QString text = QString::fromUtf8(sample.readAll());
-        text.remove(QRegularExpression(QStringLiteral("\\n *ssl_[^\\n]*")));
-        text.replace(QStringLiteral("443 ssl http2"), QStringLiteral("127.0.0.1:%1").arg(m_port));
-        text.replace(QStringLiteral("127.0.0.1:8081"), QStringLiteral("127.0.0.1:%1").arg(first));
-        text.replace(QStringLiteral("127.0.0.1:8082"), QStringLiteral("127.0.0.1:%1").arg(second));
+        text.remove(QRegularExpression("\\n *ssl_[^\\n]*"));
+        text.replace("443 ssl http2", QString("127.0.0.1:%1").arg(m_port));
+        text.replace("127.0.0.1:8081", QString("127.0.0.1:%1").arg(first));
+        text.replace("127.0.0.1:8082", QString("127.0.0.1:%1").arg(second));
         QString folders;
         for (const char *kind : {"client_body", "proxy", "fastcgi", "uwsgi", "scgi"})
-            folders += QStringLiteral("%1_temp_path %1;").arg(QLatin1String(kind));
-        return text.replace(QStringLiteral("http {"), QStringLiteral("http {") + folders).toUtf8();
+            folders += QString("%1_temp_path %1;").arg(QLatin1String(kind));
+        return text.replace("http {", "http {" + folders).toUtf8();
     }
 
     QProcess m_process;
@@ -82,8 +81,8 @@ QByteArray pageBody(int page)
 /// Rows that the service on \a port has sent since its start.
 int rowsSent(quint16 port)
 {
-    static const QRegularExpression line(QStringLiteral("\\nsubject_rows_sent_total (\\d+)"));
-    return line.match(QString::fromUtf8(get(port, QStringLiteral("/metrics")).body)).captured(1).toInt();
+    static const QRegularExpression line("\\nsubject_rows_sent_total (\\d+)");
+    return line.match(QString::fromUtf8(get(port, "/metrics").body)).captured(1).toInt();
 }
 
 } // namespace
@@ -94,53 +93,45 @@ class TestSeveralServices : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void pagesFromEitherProcessFitTogether();
-    void oneProcessMayEnd();
+    void initTestCase() { m_fixture.writeStandardViews(); }
+
+    void pagesFromEitherProcessFitTogether()
+    {
+        RunningService first(m_fixture);
+        RunningService second(m_fixture);
+        RunningService alone(m_fixture);
+        const RunningProxy proxy(m_fixture, first.port(), second.port());
+        QVERIFY(proxy.waitUntilReady());
+
+        for (int page = 1; page <= 7; ++page) {
+            const Answer expected = post(alone.port(), SubjectPath, pageBody(page));
+            QCOMPARE(expected.status, 200);
+            QCOMPARE(post(proxy.port(), SubjectPath, pageBody(page)).body, expected.body);
+        }
+
+        QCOMPARE(rowsSent(first.port()) + rowsSent(second.port()), 12);
+        QVERIFY(rowsSent(first.port()) > 0 && rowsSent(second.port()) > 0);
+    }
+
+    void oneProcessMayEnd()
+    {
+        RunningService first(m_fixture);
+        RunningService second(m_fixture);
+        const RunningProxy proxy(m_fixture, first.port(), second.port());
+        QVERIFY(proxy.waitUntilReady());
+
+        for (int i = 0; i < 20; ++i) {
+            if (i == 5)
+                first.end(SIGTERM);
+            if (i == 10)
+                second.end(SIGKILL);
+            QCOMPARE(post(proxy.port(), SubjectPath, pageBody(1)).status, i < 10 ? 200 : 502);
+        }
+    }
 
 private:
     ServiceFixture m_fixture;
 };
 
-void TestSeveralServices::initTestCase()
-{
-    m_fixture.writeStandardViews();
-}
-
-void TestSeveralServices::pagesFromEitherProcessFitTogether()
-{
-    RunningService first(m_fixture);
-    RunningService second(m_fixture);
-    RunningService alone(m_fixture);
-    const RunningProxy proxy(m_fixture, first.port(), second.port());
-    QVERIFY(proxy.waitUntilReady());
-
-    for (int page = 1; page <= 7; ++page) {
-        const Answer expected = post(alone.port(), SubjectPath, pageBody(page));
-        QCOMPARE(expected.status, 200);
-        QCOMPARE(post(proxy.port(), SubjectPath, pageBody(page)).body, expected.body);
-    }
-
-    QCOMPARE(rowsSent(first.port()) + rowsSent(second.port()), 12);
-    QVERIFY(rowsSent(first.port()) > 0 && rowsSent(second.port()) > 0);
-}
-
-void TestSeveralServices::oneProcessMayEnd()
-{
-    RunningService first(m_fixture);
-    RunningService second(m_fixture);
-    const RunningProxy proxy(m_fixture, first.port(), second.port());
-    QVERIFY(proxy.waitUntilReady());
-
-    for (int i = 0; i < 20; ++i) {
-        if (i == 5)
-            first.end(SIGTERM);
-        if (i == 10)
-            second.end(SIGKILL);
-        QCOMPARE(post(proxy.port(), SubjectPath, pageBody(1)).status, i < 10 ? 200 : 502);
-    }
-}
-
 SUBJECT_TEST_MAIN(TestSeveralServices)
-
 #include "test_severalservices.moc"
