@@ -18,6 +18,9 @@ if(NOT TARGET QXlsx::QXlsx)
     message(FATAL_ERROR "The workbook library QXlsx is missing: run tools/setup")
 endif()
 
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(MINIZIP REQUIRED IMPORTED_TARGET GLOBAL minizip)
+
 set(SUBJECTPAGE_ECHARTS_DIR ${SUBJECTPAGE_CACHE}/echarts)
 if(NOT EXISTS ${SUBJECTPAGE_ECHARTS_DIR}/echarts.min.js OR NOT EXISTS ${SUBJECTPAGE_ECHARTS_DIR}/shine.js)
     message(FATAL_ERROR "The chart scripts are missing from ${SUBJECTPAGE_ECHARTS_DIR}: run tools/setup")

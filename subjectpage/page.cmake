@@ -46,7 +46,6 @@ target_sources(subjectcore PRIVATE
     tfexcelwritter.cpp tfexcelwritter.h
     tfexcelwritterjob.cpp tfexcelwritterjob.h
 )
-target_link_libraries(subjectcore PRIVATE QXlsx::QXlsx)
 target_sources(subjectui PRIVATE
     tfsubjecttableexport.cpp tfsubjecttableexport.h
     tfsubjecttableexportprogress.cpp tfsubjecttableexportprogress.h

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QVariant>
-
-#include <functional>
+#include "workbook/tfsheettable.h"
 
 class TFTreeStruct;
 
@@ -13,16 +9,16 @@ class Document;
 class Format;
 } // namespace QXlsx
 
-/// Writes a table to the current sheet of a workbook: the band header as merged cells, the rows as typed
-/// cells.
+/// Writes a table to the current sheet of a document of the workbook library: the band header as merged
+/// cells, the rows as typed cells. The plain way; an export of any size goes by TFExcelWritterJob, with the
+/// same cells.
 ///
 /// Rows and columns count from 1. The workbook library keeps tables of its own without a lock: no two threads
 /// of a process may write workbooks at the same time.
 class TFExcelWritter
 {
 public:
-    /// Told now and then how many rows are written; false ends the writing.
-    using KeepGoing = std::function<bool(int rows)>;
+    using KeepGoing = TFSheetTable::KeepGoing;
 
     /// Writes the bands and columns below the root \a header, the tallest ones from row 1 on. A hidden node
     /// is left out with all below it; its columns stay empty. Always true.

@@ -1,14 +1,13 @@
 #include "tfexcelwritterjob.h"
 
 #include "mulittable/tfheaderdatastruct.h"
-#include "tfexcelwritter.h"
+#include "workbook/tfsheettable.h"
+#include "workbook/tfstreamsheet.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 #include <QSaveFile>
 #include <QThreadPool>
-
-#include <xlsxdocument.h>
 
 namespace {
 /// The one thread on which workbooks are written. It ends with the application, which waits for it.
@@ -21,32 +20,6 @@ QThreadPool *workbookThread()
     }
     return pool;
 }
-
-/// Lets the workbook library write a file that is not the library's to close, as long as it is wanted.
-class SaveDevice : public QIODevice
-{
-public:
-    SaveDevice(QSaveFile &file, const std::atomic_bool &isGivenUp)
-        : m_file(file)
-        , m_isGivenUp(isGivenUp)
-    {
-        open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    }
-
-    bool seek(qint64 pos) override { return QIODevice::seek(pos) && m_file.seek(pos); }
-    qint64 size() const override { return m_file.size(); }
-
-protected:
-    qint64 readData(char *, qint64) override { return -1; }
-    qint64 writeData(const char *data, qint64 length) override
-    {
-        return m_isGivenUp ? -1 : m_file.write(data, length);
-    }
-
-private:
-    QSaveFile &m_file;
-    const std::atomic_bool &m_isGivenUp;
-};
 } // namespace
 
 TFExcelWritterJob::TFExcelWritterJob(const QString &path, const TFTreeStruct &header,
@@ -72,33 +45,30 @@ TFExcelWritterJob::State TFExcelWritterJob::run()
     if (m_isGivenUp)
         return GivenUp;
     QSaveFile file(m_path);
-    const State state = file.open(QIODevice::WriteOnly) ? write(file) : DataFailed;
+    State state = file.open(QIODevice::WriteOnly) ? write(file) : DataFailed;
     m_rows.clear();
-    if (state == DataFailed)
-        m_errorText = file.errorString();
+    if (state == Saved && !file.commit())
+        state = DataFailed;
+    m_errorText = file.errorString();
     return state;
 }
 
+/// Saved when all of the workbook went to its file, which still has to take its place.
 TFExcelWritterJob::State TFExcelWritterJob::write(QSaveFile &file)
 {
-    QXlsx::Document document;
-    if (!TFExcelWritter::writeHeader(document, m_header.get()))
+    TFStreamSheet sheet(file);
+    TFSheetTable::writeHeader(sheet, m_header.get());
+    if (!sheet.isGood())
         return HeaderFailed;
     const auto keepGoing = [this](int rows) {
         m_writtenRows.store(rows, std::memory_order_relaxed);
         return !m_isGivenUp;
     };
-    if (!TFExcelWritter::writeData(document, m_header.get(), m_rows, keepGoing))
-        return m_isGivenUp ? GivenUp : DataFailed;
-    return save(document, file);
-}
-
-TFExcelWritterJob::State TFExcelWritterJob::save(QXlsx::Document &document, QSaveFile &file)
-{
-    m_state.store(Saving, std::memory_order_release);
-    SaveDevice device(file, m_isGivenUp);
-    const bool isWritten = document.saveAs(&device);
+    const bool isWritten = TFSheetTable::writeRows(sheet, m_header.get(), m_rows, keepGoing);
+    if (isWritten)
+        m_state.store(Saving, std::memory_order_release);
+    const bool isWhole = isWritten && sheet.finish();
     if (m_isGivenUp)
         return GivenUp;
-    return isWritten && file.commit() ? Saved : DataFailed;
+    return isWhole ? Saved : DataFailed;
 }

@@ -10,15 +10,12 @@
 class QSaveFile;
 class TFTreeStruct;
 
-namespace QXlsx {
-class Document;
-}
-
 /// One workbook on its way into a file, written on a thread of its own.
 ///
-/// The file is made beside its target and takes the target's place when it is whole; until then, and when the
-/// job fails or is given up, the target stays as it is. Jobs of a process run one after the other. All
-/// functions are for the thread that started the job; it watches the job by asking.
+/// Rows go to the file as they are written; nothing of the workbook is kept in memory. The file is made
+/// beside its target and takes the target's place when it is whole; until then, and when the job fails or is
+/// given up, the target stays as it is. Jobs of a process run one after the other. All functions are for the
+/// thread that started the job; it watches the job by asking.
 class TFExcelWritterJob
 {
 public:
@@ -35,7 +32,7 @@ public:
     int rowCount() const { return m_rowCount; }
     int writtenRows() const { return m_writtenRows.load(std::memory_order_relaxed); }
     const QString &path() const { return m_path; }
-    /// Why the data failed; to be asked when the job has ended.
+    /// Why header or data failed; to be asked when the job has ended.
     const QString &errorText() const { return m_errorText; }
 
     /// Ends the job soon and without a file. Without effect on a job that has ended.
@@ -45,7 +42,6 @@ private:
     TFExcelWritterJob(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
     State run();
     State write(QSaveFile &file);
-    State save(QXlsx::Document &document, QSaveFile &file);
 
     const QString m_path;
     const std::unique_ptr<TFTreeStruct> m_header;

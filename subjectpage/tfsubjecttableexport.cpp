@@ -289,6 +289,7 @@ void TFSubjectTableExport::showResult(const TFExcelWritterJob &job)
     case TFExcelWritterJob::Saved:
         break;
     case TFExcelWritterJob::HeaderFailed:
+        qCWarning(lcExport) << "export failed:" << job.path() << job.errorText();
         warn(QObject::tr("u8写入表头失败"));
         return;
     case TFExcelWritterJob::DataFailed:

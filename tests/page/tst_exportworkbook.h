@@ -1,123 +1,86 @@
 #pragma once
 
-#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
-#include <QXmlStreamReader>
-#include <private/qzipreader_p.h>
 
-/// A workbook as a second reader sees it: unzips the file and reads its first sheet, without the library that
-/// wrote it.
+#include <xlsxcell.h>
+#include <xlsxcellrange.h>
+#include <xlsxdocument.h>
+#include <xlsxworksheet.h>
+
+/// The sheet of a workbook as the workbook library reads it, whoever wrote it.
 class ExportedWorkbook
 {
 public:
     explicit ExportedWorkbook(const QString &path)
-        : m_zip(path)
-    {
-        readTexts();
-        readFormats();
-        readSheet();
-    }
+        : ExportedWorkbook(std::make_unique<QXlsx::Document>(path))
+    {}
+    explicit ExportedWorkbook(QIODevice *device)
+        : ExportedWorkbook(std::make_unique<QXlsx::Document>(device))
+    {}
 
     /// One string a row, one "cell value" each with the short name of its number format: 'd', 'i', 't' for a
-    /// double, an integer, a date. Texts stand in quotes, '*' marks bold.
-    QStringList rows() const { return m_rows.values(); }
-    QStringList merges; ///< in the order of the sheet
-    QString widths;     ///< such as "1-3:25"
-    bool isCentred = true;
+    /// double, an integer, a date. Texts stand in quotes, '*' marks bold, '!' what is not centred.
+    QStringList rows() const
+    {
+        QStringList rows;
+        for (const QMap<int, QString> &cells : m_rows)
+            rows.append(cells.values().join(" | "));
+        return rows;
+    }
+    QString merges; ///< in the order of the sheet
+    QString widths; ///< such as "1:25 2:25", of the columns whose width is set
+    /// Of the cell, to its last bit.
+    double number(int row, int col) const { return m_document->read(row, col).toDouble(); }
 
 private:
-    struct Format
+    explicit ExportedWorkbook(std::unique_ptr<QXlsx::Document> document)
+        : m_document(std::move(document))
     {
-        QString mark;
-        bool isCentred;
-    };
-
-    template <typename F> void forEachElement(const QString &part, F take)
-    {
-        const QByteArray text = m_zip.fileData(part);
-        if (text.isEmpty())
-            return;
-        QXmlStreamReader xml(text);
-        while (!xml.atEnd()) {
-            if (xml.readNext() == QXmlStreamReader::StartElement)
-                take(xml);
+        QXlsx::Worksheet *sheet = m_document->currentWorksheet();
+        const QList<QXlsx::CellRange> ranges = sheet->mergedCells();
+        for (const QXlsx::CellRange &range : ranges)
+            merges += (merges.isEmpty() ? "" : " ") + range.toString();
+        int lastRow = 0, lastColumn = 0;
+        const auto cells = sheet->getFullCells(&lastRow, &lastColumn);
+        for (const auto &place : cells)
+            m_rows[place.row][place.col] =
+                QXlsx::CellReference(place.row, place.col).toString() + ' ' + written(*place.cell);
+        for (int col = 1; col <= lastColumn + 1; ++col) {
+            if (const double width = sheet->columnWidth(col); width > 20)
+                widths += QString("%1:%2 ").arg(col).arg(width);
         }
-        if (xml.hasError())
-            m_rows.insert(-1, part + ": " + xml.errorString());
-    }
-
-    void readTexts()
-    {
-        forEachElement("xl/sharedStrings.xml", [this](QXmlStreamReader &xml) {
-            if (xml.name() == QLatin1String("si"))
-                m_texts.append(xml.readElementText(QXmlStreamReader::IncludeChildElements));
-        });
-    }
-
-    void readFormats()
-    {
-        const QHash<QString, QString> marks{
-            {"#,##0.00######;-#,##0.00######", " d"}, {"#,##0;-#,##0", " i"}, {"yyyy-MM-dd", " t"}};
-        QHash<QString, QString> codes{{"0", ""}};
-        QList<bool> fonts;
-        bool isInCells = false;
-        forEachElement("xl/styles.xml", [&](QXmlStreamReader &xml) {
-            const QXmlStreamAttributes a = xml.attributes();
-            if (xml.name() == QLatin1String("numFmt"))
-                codes.insert(a.value("numFmtId").toString(),
-                             marks.value(a.value("formatCode").toString(), " ?"));
-            else if (xml.name() == QLatin1String("font"))
-                fonts.append(false);
-            else if (xml.name() == QLatin1String("b") && !fonts.isEmpty())
-                fonts.last() = true;
-            else if (xml.name() == QLatin1String("cellXfs"))
-                isInCells = true;
-            else if (xml.name() == QLatin1String("cellStyles"))
-                isInCells = false;
-            else if (isInCells && xml.name() == QLatin1String("xf"))
-                m_formats.append({codes.value(a.value("numFmtId").toString(), " ?") +
-                                      (fonts.value(a.value("fontId").toInt()) ? "*" : ""),
-                                  false});
-            else if (isInCells && xml.name() == QLatin1String("alignment"))
-                m_formats.last().isCentred = a.value("horizontal") == QLatin1String("center") &&
-                                             a.value("vertical") == QLatin1String("center");
-        });
-    }
-
-    void readSheet()
-    {
-        forEachElement("xl/worksheets/sheet1.xml", [this](QXmlStreamReader &xml) {
-            const QXmlStreamAttributes a = xml.attributes();
-            if (xml.name() == QLatin1String("col"))
-                widths += QString("%1-%2:%3 ").arg(a.value("min"), a.value("max"), a.value("width"));
-            else if (xml.name() == QLatin1String("mergeCell"))
-                merges.append(a.value("ref").toString());
-            else if (xml.name() == QLatin1String("c"))
-                readCell(xml);
-        });
         widths = widths.trimmed();
     }
 
-    void readCell(QXmlStreamReader &xml)
+    static QString written(const QXlsx::Cell &cell)
     {
-        const QXmlStreamAttributes a = xml.attributes();
-        const QString name = a.value("r").toString();
-        const Format format = m_formats.value(a.value("s").toInt());
-        isCentred = isCentred && format.isCentred;
-        const QString content = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-        const bool isShared = a.value("t") == QLatin1String("s");
-        if (content.isEmpty() && !isShared)
-            return; // covered by a merge
-        QString &row = m_rows[name.mid(name.indexOf(QRegExp("\\d"))).toInt()];
-        if (!row.isEmpty())
-            row += " | ";
-        row += name + ' ' + (isShared ? '\'' + m_texts.value(content.toInt()) + '\'' : content) + format.mark;
+        const QXlsx::Format format = cell.format();
+        const QHash<QString, QString> marks{
+            {"", ""}, {"#,##0.00######;-#,##0.00######", " d"}, {"#,##0;-#,##0", " i"}, {"yyyy-MM-dd", " t"}};
+        const bool isCentred = format.horizontalAlignment() == QXlsx::Format::AlignHCenter &&
+                               format.verticalAlignment() == QXlsx::Format::AlignVCenter;
+        return content(cell) + marks.value(format.numberFormat(), " ?") + (format.fontBold() ? "*" : "") +
+               (isCentred ? "" : "!");
     }
 
-    QZipReader m_zip;
-    QStringList m_texts;
-    QList<Format> m_formats;
-    QMap<int, QString> m_rows;
+    static QString content(const QXlsx::Cell &cell)
+    {
+        switch (cell.cellType()) {
+        case QXlsx::Cell::SharedStringType:
+        case QXlsx::Cell::InlineStringType:
+            return '\'' + cell.value().toString() + '\'';
+        case QXlsx::Cell::BooleanType:
+            return cell.value().toBool() ? "true" : "false";
+        case QXlsx::Cell::NumberType:
+        case QXlsx::Cell::DateType:
+            return cell.value().isValid() ? QString::number(cell.value().toDouble(), 'g', 15) : "-";
+        default:
+            return "?";
+        }
+    }
+
+    std::unique_ptr<QXlsx::Document> m_document;
+    QMap<int, QMap<int, QString>> m_rows;
 };
