@@ -27,6 +27,7 @@ void setWidths(QHeaderView *header, const QVector<int> &widths)
 /// Keeps the newest row in sight, unless the user has scrolled away from it.
 void followEnd(QTableView *table)
 {
+    table->scrollToBottom();
     QObject::connect(table->model(), &QAbstractItemModel::rowsAboutToBeInserted, table, [table] {
         const QScrollBar *bar = table->verticalScrollBar();
         table->setProperty("atEnd", bar->value() == bar->maximum());
@@ -42,14 +43,19 @@ ActivityPanel::ActivityPanel(QWidget *parent)
     : QDockWidget(parent)
     , m_requests(new RequestModel(this))
     , m_messages(new MessageModel(this))
-    , m_tabs(new QTabWidget)
-    , m_requestTable(makeTable(m_requests, "RequestTable"))
-    , m_messageTable(makeTable(m_messages, "MessageTable"))
-    , m_body(new QPlainTextEdit)
-    , m_plugins(new QTreeWidget)
 {
     setObjectName("ActivityPanel");
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::RightDockWidgetArea);
+    setWindowTitle(tr("What happened"));
+}
+
+void ActivityPanel::makeParts()
+{
+    m_tabs = new QTabWidget;
+    m_requestTable = makeTable(m_requests, "RequestTable");
+    m_messageTable = makeTable(m_messages, "MessageTable");
+    m_body = new QPlainTextEdit;
+    m_plugins = new QTreeWidget;
     m_plugins->setObjectName("PluginTable");
     m_plugins->setRootIsDecorated(false);
     m_plugins->setUniformRowHeights(true);
@@ -66,7 +72,15 @@ ActivityPanel::ActivityPanel(QWidget *parent)
                                                              QHeaderView::Stretch);
     m_messageTable->horizontalHeader()->setSectionResizeMode(MessageModel::TextColumn, QHeaderView::Stretch);
     setWidths(m_plugins->header(), {140, 72, 96, 420, 420});
+    fillPlugins();
     retranslate();
+}
+
+void ActivityPanel::setVisible(bool visible)
+{
+    if (visible && !m_tabs)
+        makeParts();
+    QDockWidget::setVisible(visible);
 }
 
 QTableView *ActivityPanel::makeTable(QAbstractItemModel *model, const QString &name)
@@ -120,8 +134,17 @@ void ActivityPanel::addMessage(const LogMessage &message)
 
 void ActivityPanel::showPlugins(const PluginManager &plugins)
 {
+    m_manager = &plugins;
+    if (m_tabs)
+        fillPlugins();
+}
+
+void ActivityPanel::fillPlugins()
+{
     m_plugins->clear();
-    for (const PluginInfo &info : plugins.plugins()) {
+    if (!m_manager)
+        return;
+    for (const PluginInfo &info : m_manager->plugins()) {
         const QString state = QCoreApplication::translate("PluginInfo", PluginInfo::stateName(info.state));
         auto *item = new QTreeWidgetItem(
             m_plugins, {info.name, info.version.toString(), state, info.reason, info.filePath});
@@ -156,6 +179,8 @@ void ActivityPanel::changeEvent(QEvent *event)
 void ActivityPanel::retranslate()
 {
     setWindowTitle(tr("What happened"));
+    if (!m_tabs)
+        return;
     m_tabs->setTabText(0, tr("Requests"));
     m_tabs->setTabText(1, tr("Warnings"));
     m_tabs->setTabText(2, tr("Plug-ins"));

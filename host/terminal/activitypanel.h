@@ -14,8 +14,8 @@ class RequestModel;
 struct TFRequestRecord;
 
 /// "What happened": the requests to the data service, the warnings of the program, the plug-ins and their
-/// states. The object name is "ActivityPanel", those of its parts "ActivityTabs", "RequestTable",
-/// "RequestBody", "MessageTable" and "PluginTable".
+/// states. Its parts are made when it is first shown. The object name is "ActivityPanel", those of its parts
+/// "ActivityTabs", "RequestTable", "RequestBody", "MessageTable" and "PluginTable".
 class ActivityPanel : public QDockWidget
 {
     Q_OBJECT
@@ -25,13 +25,18 @@ public:
 
     void addRequest(const TFRequestRecord &record);
     void addMessage(const LogMessage &message);
+    /// \a plugins has to outlive the panel.
     void showPlugins(const PluginManager &plugins);
     const RequestModel &requests() const { return *m_requests; }
+
+    void setVisible(bool visible) override;
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void makeParts();
+    void fillPlugins();
     QTableView *makeTable(QAbstractItemModel *model, const QString &name);
     QWidget *makeRequestPage();
     void showBody(int row);
@@ -40,9 +45,11 @@ private:
 
     RequestModel *m_requests;
     MessageModel *m_messages;
-    QTabWidget *m_tabs;
-    QTableView *m_requestTable;
-    QTableView *m_messageTable;
-    QPlainTextEdit *m_body;
-    QTreeWidget *m_plugins;
+    const PluginManager *m_manager = nullptr;
+    // Null until the panel is shown.
+    QTabWidget *m_tabs = nullptr;
+    QTableView *m_requestTable = nullptr;
+    QTableView *m_messageTable = nullptr;
+    QPlainTextEdit *m_body = nullptr;
+    QTreeWidget *m_plugins = nullptr;
 };

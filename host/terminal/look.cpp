@@ -9,11 +9,13 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPalette>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QSvgRenderer>
 
 #include <memory>
+#include <set>
 
 namespace {
 constexpr int FontPixels = 12;
@@ -97,7 +99,10 @@ QIcon Look::icon(const QString &name)
     const QByteArray svg = contents(":/terminal/icons/" + name + ".svg");
     const QPalette palette = QApplication::palette();
     QIcon icon;
-    for (qreal scale : {1.0, 2.0, 3.0}) {
+    std::set<qreal> scales{1.0};
+    for (const QScreen *screen : QGuiApplication::screens())
+        scales.insert(screen->devicePixelRatio());
+    for (qreal scale : scales) {
         icon.addPixmap(drawn(svg, palette.color(QPalette::Active, QPalette::ButtonText), scale));
         icon.addPixmap(drawn(svg, palette.color(QPalette::Disabled, QPalette::ButtonText), scale),
                        QIcon::Disabled);
