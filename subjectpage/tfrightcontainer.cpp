@@ -12,6 +12,7 @@
 #include <QMutex>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -162,7 +163,9 @@ void TFRightContainer::createSubWidgets(qlonglong id, QJsonValue data)
     }
     if (!m_childState.contains(id))
         return;
-    TFBaseView *view = TFViewFactory::create(TFMainView::viewKind(data), id, data, m_tabs, false);
+    // In its place from the start: one that is moved is given its style again, with all that is in it.
+    auto *stack = m_tabs->findChild<QStackedWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    TFBaseView *view = TFViewFactory::create(TFMainView::viewKind(data), id, data, stack, false);
     if (!view)
         return;
     if (!m_childState.contains(view->viewId())) {

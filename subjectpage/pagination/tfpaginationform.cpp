@@ -75,7 +75,7 @@ void TFPaginationForm::addPageSize(QHBoxLayout *line)
     fmLine->setObjectName(QStringLiteral("fmLine"));
     line->addWidget(fmLine);
 
-    totalPageCombox = new QComboBox;
+    totalPageCombox = new QComboBox(line->parentWidget());
     totalPageCombox->setObjectName(QStringLiteral("totalPageCombox"));
     totalPageCombox->setAccessibleName(text("每页行数"));
     line->addWidget(totalPageCombox);
