@@ -259,8 +259,12 @@ void TFSubjectTreeWidget::open(QModelIndex index, const QString &text)
         }
         index = next;
     }
+    // A page that opens has nothing to move: an animation would paint it anew for a quarter of a second.
+    const bool isAnimated = m_view->isAnimated();
+    m_view->setAnimated(false);
     m_view->expand(index);
     m_view->setCurrentIndex(index);
+    m_view->setAnimated(isAnimated);
     slotItemClicked(index);
 }
 
