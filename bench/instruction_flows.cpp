@@ -100,7 +100,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr, "usage: %s reply|page|scroll|tree\n", argv[0]);
         return 2;
     }
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    Bench::prepareToolkit();
     QApplication application(argc, argv);
     flow();
     return 0;

@@ -5,6 +5,7 @@
 #include "httpservice/tfwxrshttp.h"
 #include "mulittable/tfsubjecttablemodel.h"
 #include "mulittable/tfsujecttableview.h"
+#include "net/tfdm.h"
 #include "painting.h"
 #include "replies.h"
 #include "server.h"
@@ -118,13 +119,10 @@ void settle()
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    Bench::prepareToolkit();
     QApplication application(argc, argv);
     Service service;
-    TFServiceConfig::instance()->setHttpUrl(QStringLiteral("servercfg.ini:Subject"),
-                                            service.url().toString());
+    TFServiceConfig::instance()->setHttpUrl(TFDm::ServiceKey, service.url().toString());
     TFRightContainer page;
     page.resize(kSize);
     page.show();

@@ -90,9 +90,7 @@ void measureMemory(TFSubjectTableWidget *table, int rows)
 
 int main(int argc, char *argv[])
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    Bench::prepareToolkit();
     QApplication application(argc, argv);
     TFSubjectTableWidget table(nullptr, false);
     table.initLayout();

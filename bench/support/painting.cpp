@@ -44,6 +44,13 @@ private:
 };
 } // namespace
 
+void Bench::prepareToolkit()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+}
+
 void Bench::waitForPaint(QWidget *widget)
 {
     PaintWatch watch(widget);

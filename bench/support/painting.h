@@ -5,6 +5,10 @@ class QWidget;
 
 namespace Bench {
 
+/// What comes before the application object where there are pages: the toolkit set up as the terminal has it,
+/// and no display wanted unless the environment names a platform.
+void prepareToolkit();
+
 /// Lets the event loop run until \a widget, or one inside it, has been painted.
 void waitForPaint(QWidget *widget);
 
