@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStringList>
+#include <QVariant>
 
 // Documents to parse, and rows as text to compare.
 
@@ -43,6 +44,12 @@ inline QJsonObject document(const QJsonArray &columns, const QJsonArray &rows,
                                   {"vw_sts", "1"},
                                   {"ots_cfg", text(field)}});
     return {{"Data", rows}, {"View_Config", view}, {"Object_View_Config", fields}};
+}
+
+/// The values as text, side by side.
+template <typename... T> QString line(const T &...values)
+{
+    return QStringList{QVariant(values).toString()...}.join(' ');
 }
 
 inline QString written(const QVariant &value)

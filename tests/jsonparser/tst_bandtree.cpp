@@ -1,8 +1,8 @@
+#include "parserdocument.h"
 #include "subjecttest.h"
 
 #include "jsonparser/tfbandtreebuilder.h"
 #include "mulittable/tfheaderdatastruct.h"
-#include "mulittable/tfunits.h"
 
 namespace {
 HeaderFieldInfo field(const QString &name, const QString &owner = QString())
@@ -61,7 +61,6 @@ private slots:
     void groupColumnIsTheOnlyHiddenLeaf();
     void unitChangeReplacesTheUnitOfItsCategory();
     void bandHandsItsFactorsDown();
-    void unitsAreFoundByTheirFirstName();
 };
 
 void TestBandTree::flatListBecomesATree_data()
@@ -126,9 +125,8 @@ void TestBandTree::treeAnswersByLevelAndLeaf()
     QCOMPARE(written(root.nodesAtLevel(3)), QString("c"));
     QVERIFY(root.nodesAtLevel(4).isEmpty());
     QVERIFY(root.hasChildren(root.findField("D")) && !root.hasChildren(root.findField("c")));
-    QCOMPARE(root.findField("c")->parent()->displayCaption(), QString("D"));
-    QCOMPARE(root.findField(""), &root);
-    QVERIFY(!root.findField("none"));
+    QVERIFY(root.findField("c")->parent() == root.findField("D"));
+    QVERIFY(root.findField("") == &root && !root.findField("none"));
     const QList<HeaderFieldInfo *> records = root.leafRecords();
     QCOMPARE(records.at(1)->fieldName, QString("b"));
     qDeleteAll(records);
@@ -177,42 +175,22 @@ void TestBandTree::unitChangeReplacesTheUnitOfItsCategory()
 void TestBandTree::bandHandsItsFactorsDown()
 {
     const auto factorsOfLeaf = [](qint64 bandFactor, int bandCategory) {
-        HeaderFieldInfo band = field("B");
-        band.showUnitFactor = bandFactor;
-        band.prevUnitFactor = 7;
-        band.unitCategory = bandCategory;
-        HeaderFieldInfo leaf = field("a", "C");
-        leaf.showUnitFactor = 5;
-        leaf.prevUnitFactor = 1;
-        leaf.unitCategory = 2;
-        HeaderFieldInfo inner = field("C", "B");
-        inner.showUnitFactor = 3;
-        inner.unitCategory = 3;
+        QList<HeaderFieldInfo> fields = fieldsOf("B C@B a@C");
+        const qint64 factors[][3] = {{bandFactor, 7, bandCategory}, {3, 0, 3}, {5, 1, 2}};
+        for (int i = 0; i < 3; ++i) {
+            fields[i].showUnitFactor = factors[i][0];
+            fields[i].prevUnitFactor = factors[i][1];
+            fields[i].unitCategory = int(factors[i][2]);
+        }
         TFTreeStruct root("");
-        TFBandTreeBuilder::build(root, {band, inner, leaf});
+        TFBandTreeBuilder::build(root, fields);
         const HeaderFieldInfo &info = root.leaves().first()->info();
-        return QString("%1/%2 %3").arg(info.prevUnitFactor).arg(info.showUnitFactor).arg(info.unitCategory);
+        return line(info.prevUnitFactor, info.showUnitFactor, info.unitCategory);
     };
-    QCOMPARE(factorsOfLeaf(10000, 1), QString("7/10000 1"));
+    QCOMPARE(factorsOfLeaf(10000, 1), QString("7 10000 1"));
     QVERIFY(debugLines().value(0).startsWith("unit test: 10000 7 1 \"B\" true \"B\""));
-    QCOMPARE(factorsOfLeaf(0, 1), QString("1/5 2"));
-    QCOMPARE(factorsOfLeaf(10000, 0), QString("1/5 2"));
-}
-
-void TestBandTree::unitsAreFoundByTheirFirstName()
-{
-    QCOMPARE(TFUnits::all().size(), 43);
-    for (const TFUnits::Unit &unit : TFUnits::all())
-        QCOMPARE(unit.unitCode / 1000, unit.unitCategory);
-    QStringList rates;
-    for (const TFUnits::Unit &unit : TFUnits::unitsOfCategory(7))
-        rates.append(QString("%1 %2 %3").arg(unit.unitCode).arg(unit.exponent).arg(unit.unitName));
-    QCOMPARE(rates, QStringList({"7002 2 原始值", "7003 1 %", "7004 -1 ‰", "7005 -2 BP"}));
-    QCOMPARE(TFUnits::unitCodeOfName("元"), 1000);
-    QCOMPARE(TFUnits::unitCodeOfName("none"), -1);
-    QCOMPARE(TFUnits::unitNameOfCode(3001) + TFUnits::unitNameOfCode(1), QString("手（十张）"));
-    QCOMPARE(TFUnits::unitExponentOfCode(1009), 9);
-    QCOMPARE(TFUnits::unitExponentOfCode(1), -100);
+    QCOMPARE(factorsOfLeaf(0, 1), QString("1 5 2"));
+    QCOMPARE(factorsOfLeaf(10000, 0), QString("1 5 2"));
 }
 
 SUBJECT_TEST_MAIN(TestBandTree)
