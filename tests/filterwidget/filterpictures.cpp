@@ -2,10 +2,10 @@
 #include "filterwidget/tffilterwidget.h"
 #include "filterwidget/tfsortview.h"
 #include "jsonparser/tffilterjsontable.h"
+#include "look.h"
 #include "records/tfclock.h"
 #include "tfcore/itfskin.h"
 #include "tfcore/tfcore.h"
-#include "tfcore/tfskinpalette.h"
 #include "tftranslations.h"
 
 #include <QAbstractItemView>
@@ -21,7 +21,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QStyleFactory>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -55,36 +54,22 @@ QList<Picture> readExamples(const QString &document)
     return pictures;
 }
 
-/// Takes a style sheet of the skin, as the terminal's window and a page do.
-class Skinned : public QWidget, public ITFSkin
+/// A bar as it looks in a page.
+class Stage : public QWidget, public ITFSkin
 {
 public:
-    Skinned(const QString &sheet, QWidget *parent)
-        : QWidget(parent)
+    explicit Stage(const Rows &rows)
+        : bar(new TFFilterWidget)
     {
-        TFCore::instance()->addStyle2View(this, sheet);
+        auto *column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addWidget(bar);
+        TFCore::instance()->addStyle2View(this, QStringLiteral("subject/subject.css"));
+        bar->setFilterData(rows);
     }
 
     QWidget *object() override { return this; }
     void applySkinStyle(const QVariant &style) override { setStyleSheet(style.toString()); }
-};
-
-/// A bar as it looks in a page.
-class Stage : public Skinned
-{
-public:
-    explicit Stage(const Rows &rows)
-        : Skinned(QStringLiteral("terminal.css"), nullptr)
-        , bar(new TFFilterWidget)
-    {
-        auto *page = new Skinned(QStringLiteral("subject/subject.css"), this);
-        for (QWidget *outer : {static_cast<QWidget *>(this), static_cast<QWidget *>(page)}) {
-            auto *column = new QVBoxLayout(outer);
-            column->setContentsMargins(0, 0, 0, 0);
-            column->addWidget(outer == page ? static_cast<QWidget *>(bar) : page);
-        }
-        bar->setFilterData(rows);
-    }
 
     TFFilterWidget *bar;
 };
@@ -142,8 +127,7 @@ bool drawBar(const QList<Picture> &examples, const QString &prefix)
 
 bool drawSortDialog(const QString &file)
 {
-    Skinned page(QStringLiteral("terminal.css"), nullptr);
-    TFSortView view({QStringLiteral("最新价"), QStringLiteral("涨跌幅")}, &page);
+    TFSortView view({QStringLiteral("最新价"), QStringLiteral("涨跌幅")});
     view.on_pushButton_2_clicked();
     view.on_pushButton_2_clicked();
     view.show();
@@ -157,22 +141,17 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QFont font(QStringLiteral("WenQuanYi Micro Hei"));
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+    Look look;
+    look.prepare(&app);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 3) {
         std::fprintf(stderr, "usage: filter-pictures DOCUMENT FOLDER [SKIN]\n");
         return 2;
     }
-    TFCore *core = TFCore::instance();
-    core->setSkinRoot(QStringLiteral(SKIN_FOLDER));
     const QString skin = arguments.value(3, QStringLiteral("white"));
-    const QPalette plain = QApplication::palette();
-    QObject::connect(core, &TFCore::signalSkinChanged, &app,
-                     [plain] { QApplication::setPalette(TFSkinPalette::current(plain)); });
-    if (!core->setCurrentSkin(skin))
+    TFCore::instance()->setSkinRoot(QStringLiteral(SKIN_FOLDER));
+    if (!look.setSkin(skin))
         return 2;
     TFTranslations::install();
     TFClock::setNow([] { return QDateTime(QDate(2021, 5, 20), QTime(10, 0)); });

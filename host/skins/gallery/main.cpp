@@ -1,13 +1,10 @@
 #include "gallery.h"
-#include "skinnedwidget.h"
 
+#include "look.h"
 #include "tfcore/tfcore.h"
-#include "tfcore/tfskinpalette.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QStyleFactory>
-#include <QVBoxLayout>
 
 #include <cstdio>
 
@@ -16,10 +13,8 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication app(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QFont font(QStringLiteral("WenQuanYi Micro Hei"));
-    font.setPixelSize(12);
-    QApplication::setFont(font);
+    Look look;
+    look.prepare(&app);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Shows every control in a skin."));
@@ -30,26 +25,18 @@ int main(int argc, char *argv[])
                        {"out", "Draw into this picture instead of a window.", "file"}});
     parser.process(app);
 
-    TFCore *core = TFCore::instance();
-    core->setSkinRoot(parser.value("skins"));
-    const QPalette plain = QApplication::palette();
-    QObject::connect(core, &TFCore::signalSkinChanged, &app,
-                     [plain] { QApplication::setPalette(TFSkinPalette::current(plain)); });
-    if (!core->setCurrentSkin(parser.value("skin")))
+    TFCore::instance()->setSkinRoot(parser.value("skins"));
+    if (!look.setSkin(parser.value("skin")))
         return 2;
 
-    SkinnedWidget terminal;
-    auto *layout = new QVBoxLayout(&terminal);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(new Gallery);
-    core->addStyle2View(&terminal, QStringLiteral("terminal.css"));
-    terminal.resize(1320, 780);
-    terminal.show();
+    Gallery gallery;
+    gallery.resize(1320, 780);
+    gallery.show();
     if (!parser.isSet("out"))
         return QApplication::exec();
 
     QApplication::processEvents();
-    if (!terminal.grab().save(parser.value("out"))) {
+    if (!gallery.grab().save(parser.value("out"))) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(parser.value("out")));
         return 1;
     }

@@ -55,7 +55,7 @@ QWidget *ScreenCell::makeWidget()
     const auto constructor = TFFactory<QWidget>::constructors().value(m_component.className);
     QWidget *widget = constructor ? constructor(this) : nullptr;
     if (!widget)
-        qCWarning(lcScreen).noquote() << "no plug-in offers the component" << m_component.className;
+        qCWarning(lcScreens).noquote() << "no plug-in offers the component" << m_component.className;
     m_memory = dynamic_cast<ITFMemory *>(widget);
     return widget;
 }

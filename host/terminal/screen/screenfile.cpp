@@ -54,7 +54,7 @@ QString ScreenFile::save(const ScreenState &state)
     QStringList problems;
     const QByteArray text = ScreenFormat::write(state, &problems);
     for (const QString &problem : qAsConst(problems))
-        qCWarning(lcScreen).noquote() << m_path << problem;
+        qCWarning(lcScreens).noquote() << m_path << problem;
     QFile present(m_path);
     if (present.exists()) {
         if (!QFileInfo(m_path).isFile())
@@ -84,7 +84,7 @@ QString ScreenFile::keepAside(const QByteArray &text)
     const QString fault = writeFile(name, text);
     if (fault.isEmpty()) {
         m_keptAside = name;
-        qCInfo(lcScreen).noquote() << m_path << "is not what this terminal wrote; it is kept as" << name;
+        qCInfo(lcScreens).noquote() << m_path << "is not what this terminal wrote; it is kept as" << name;
     }
     return fault;
 }

@@ -83,7 +83,7 @@ void ScreenTab::tellProblems(const QStringList &problems)
     if (problems.isEmpty())
         return;
     for (const QString &problem : problems)
-        qCWarning(lcScreen).noquote() << m_file.path() << problem;
+        qCWarning(lcScreens).noquote() << m_file.path() << problem;
     QStringList first = problems.mid(0, ProblemsTold);
     if (problems.size() > ProblemsTold)
         first.append(tr("and %1 more").arg(problems.size() - ProblemsTold));
@@ -116,7 +116,7 @@ bool ScreenTab::save()
     m_isChanged = !fault.isEmpty();
     m_bar->showSaved(fault);
     if (!fault.isEmpty()) {
-        qCWarning(lcScreen).noquote() << "the screen cannot be saved:" << fault;
+        qCWarning(lcScreens).noquote() << "the screen cannot be saved:" << fault;
         emit told(tr("The screen cannot be saved. %1").arg(fault));
     } else if (!m_file.keptAside().isEmpty()) {
         emit told(tr("What lay in the file of the screen before is kept as %1").arg(m_file.keptAside()));
