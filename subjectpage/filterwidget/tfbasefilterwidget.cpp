@@ -13,6 +13,7 @@
 namespace {
 constexpr int CaptionGap = 6;
 constexpr int MarkSize = 5;
+constexpr int DashGap = 4;
 } // namespace
 
 TFSubWidgetExpandData::TFSubWidgetExpandData(const TFTableModelData::FilterData &row, QWidget *parent)
@@ -56,6 +57,13 @@ QLabel *TFBaseFilterWidget::makeLabel(int spacing)
     m_caption->setContentsMargins(0, 0, qMax(0, CaptionGap - spacing), 0);
     m_caption->hide();
     return m_caption;
+}
+
+QLabel *TFBaseFilterWidget::makeDash(const QString &sign)
+{
+    auto *dash = new QLabel(sign, this);
+    dash->setContentsMargins(DashGap, 0, DashGap, 0);
+    return dash;
 }
 
 void TFBaseFilterWidget::showCaption()

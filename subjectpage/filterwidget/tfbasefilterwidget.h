@@ -52,6 +52,8 @@ protected:
     /// The label of the caption, named "filterCaption" for the style sheet; hidden until it has a text. It
     /// keeps six pixels from the box beside it in a layout of any smaller \a spacing.
     QLabel *makeLabel(int spacing = 6);
+    /// A label with the sign between the two ends of a range, with some room on both sides.
+    QLabel *makeDash(const QString &sign);
     /// Writes the row's caption on the label that makeLabel() has made.
     void showCaption();
 

@@ -1,6 +1,7 @@
 #include "tfcheckcombox.h"
 
 #include "tffilterdefaults.h"
+#include "tfmenubutton.h"
 #include "tfremotelist.h"
 
 #include <QFontMetrics>
@@ -8,8 +9,9 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollBar>
+#include <QSet>
 #include <QStyledItemDelegate>
-#include <QToolButton>
 #include <QWidgetAction>
 
 namespace {
@@ -55,7 +57,7 @@ QListWidgetItem *addCheckable(QListWidget *list, const QString &text, int index)
 
 TFCheckCombox::TFCheckCombox(const TFTableModelData::FilterData &row, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
-    , m_button(new QToolButton(this))
+    , m_button(new TFMenuButton(this))
     , m_dm(this)
 {
     buildWidgets();
@@ -68,19 +70,14 @@ TFCheckCombox::TFCheckCombox(const TFTableModelData::FilterData &row, QWidget *p
 
 void TFCheckCombox::buildWidgets()
 {
-    m_button->setPopupMode(QToolButton::MenuButtonPopup);
-    m_button->setFocusPolicy(Qt::StrongFocus);
-    m_menu = new QMenu(m_button);
-    m_button->setMenu(m_menu);
-    connect(m_button, &QToolButton::clicked, m_button, &QToolButton::showMenu);
-
-    m_list = new QListWidget(m_menu);
+    QMenu *menu = m_button->menu();
+    m_list = new QListWidget(menu);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setItemDelegate(new EntryDelegate(m_list));
-    auto *holder = new QWidgetAction(m_menu);
+    auto *holder = new QWidgetAction(menu);
     holder->setDefaultWidget(m_list);
-    m_menu->addAction(holder);
+    menu->addAction(holder);
     connect(m_list, &QListWidget::itemPressed, this, &TFCheckCombox::slotItemPressed);
     connect(m_list, &QListWidget::itemClicked, this, &TFCheckCombox::slotItemClicked);
 
@@ -118,7 +115,9 @@ void TFCheckCombox::slotOnItemDataUpdate(QMap<QString, QString> data)
         m_texts.insert(index, entry.key());
         m_values.insert(entry.key(), entry.value());
     }
-    m_list->setMinimumHeight(qMin(RowHeight * (data.size() + 2), MaximumHeight));
+    m_list->setFixedSize(m_list->sizeHintForColumn(0) + m_list->verticalScrollBar()->sizeHint().width() +
+                             RowHeight,
+                         qMin(RowHeight * (data.size() + 2), MaximumHeight));
     showCaption();
     if (!m_texts.isEmpty()) {
         checkAll(true);
@@ -186,12 +185,12 @@ void TFCheckCombox::slotCheckStatusChanged(QListWidgetItem *item, bool checked)
             m_checked.removeAll(index);
         else if (!m_checked.contains(index))
             m_checked.append(index);
-        m_allItem->setCheckState(m_checked.size() == m_texts.size() ? Qt::Checked : Qt::Unchecked);
+        // A default that was ticked already stands in the list a second time.
+        const QSet<int> entries(m_checked.begin(), m_checked.end());
+        m_allItem->setCheckState(entries.size() == m_texts.size() ? Qt::Checked : Qt::Unchecked);
     }
     rebuildText();
-    // The menu stays open for further ticks; a control that is not on the screen has nothing to open.
-    if (m_button->isVisible() && !m_menu->isVisible())
-        QMetaObject::invokeMethod(m_button, &QToolButton::showMenu, Qt::QueuedConnection);
+    m_button->reopenMenu();
 }
 
 void TFCheckCombox::rebuildText()

@@ -8,8 +8,7 @@
 
 class QListWidget;
 class QListWidgetItem;
-class QMenu;
-class QToolButton;
+class TFMenuButton;
 
 /// Several choices out of a list that drops down, with an "All" entry on top.
 ///
@@ -43,8 +42,7 @@ private:
     QString valueOf(const QString &text) const;
     QStringList checkedTexts() const;
 
-    QToolButton *m_button;
-    QMenu *m_menu = nullptr;
+    TFMenuButton *m_button;
     QListWidget *m_list = nullptr;
     QList<int> m_checked;
     QMap<int, QString> m_texts;

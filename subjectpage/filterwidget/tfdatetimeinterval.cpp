@@ -21,7 +21,7 @@ TFDatetimeInterval::TFDatetimeInterval(const TFTableModelData::FilterData &row, 
     layout->addWidget(label);
     showCaption();
     layout->addWidget(m_start);
-    layout->addWidget(new QLabel(QStringLiteral("一"), this));
+    layout->addWidget(makeDash(QStringLiteral("一")));
     layout->addWidget(m_end);
     applyDefault();
     m_end->setMinimumDate(m_start->date());

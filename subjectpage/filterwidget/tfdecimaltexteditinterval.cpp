@@ -28,7 +28,7 @@ TFDecimalTextEditInterval::TFDecimalTextEditInterval(const TFTableModelData::Fil
     layout->addWidget(label);
     showCaption();
     layout->addWidget(m_start);
-    layout->addWidget(new QLabel(QStringLiteral("-"), this));
+    layout->addWidget(makeDash(QStringLiteral("-")));
     layout->addWidget(m_end);
     const QStringList parts =
         TFFilterDefaults::withoutEquals(row.DefualtValue).split(QLatin1Char(';'), Qt::SkipEmptyParts);

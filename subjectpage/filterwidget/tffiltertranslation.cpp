@@ -60,7 +60,6 @@ QList<FilterParam::Cntrl> expanded(const QObject *bar, const FilterParam::Cntrl 
         entry.index = i;
         entry.key = partAt(keys, i);
         entry.op = partAt(operators, i);
-        entry.objName = cntrl.objName;
         entry.valueType = cntrl.valueType;
         entry.value = value(bar, entry.key, values.at(i), cntrl.valueType);
         entries.append(entry);

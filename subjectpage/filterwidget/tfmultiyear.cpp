@@ -2,13 +2,13 @@
 
 #include "expression/tfcustommath.h"
 #include "tffilterdefaults.h"
+#include "tfmenubutton.h"
 
 #include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QRegExp>
-#include <QToolButton>
 
 #include <algorithm>
 
@@ -55,15 +55,10 @@ QString withoutSuffix(QString text)
 
 TFMultiYear::TFMultiYear(const TFTableModelData::FilterData &row, Choice choice, QWidget *parent)
     : TFBaseFilterWidget(row, parent)
-    , m_button(new QToolButton(this))
-    , m_menu(new QMenu(m_button))
+    , m_button(new TFMenuButton(this))
     , m_many(choice == Choice::Many)
 {
-    m_button->setPopupMode(QToolButton::MenuButtonPopup);
-    m_button->setFocusPolicy(Qt::StrongFocus);
     m_button->setFixedWidth(ButtonWidth);
-    m_button->setMenu(m_menu);
-    connect(m_button, &QToolButton::clicked, m_button, &QToolButton::showMenu);
     QLabel *label = makeLabel();
     label->setBuddy(m_button);
     QHBoxLayout *layout = makeLayout(6);
@@ -75,7 +70,7 @@ TFMultiYear::TFMultiYear(const TFTableModelData::FilterData &row, Choice choice,
 
 void TFMultiYear::addYear(int index, const QString &text)
 {
-    QAction *action = m_menu->addAction(text);
+    QAction *action = m_button->menu()->addAction(text);
     action->setData(index);
     m_texts.insert(index, text);
     if (m_many) {
@@ -135,7 +130,7 @@ void TFMultiYear::selectDefault()
     if (!m_many)
         return;
     const int index = m_texts.key(text, -1);
-    for (QAction *action : m_menu->actions()) {
+    for (QAction *action : m_button->menu()->actions()) {
         if (action->data().toInt() == index)
             action->setChecked(true);
     }
@@ -168,9 +163,7 @@ void TFMultiYear::slotActionCheckStatusChanged(bool checked)
     else if (!m_chosen.contains(index))
         m_chosen.append(index);
     rebuildText();
-    // The menu stays open for further ticks; a bar that is not on the screen has nothing to open.
-    if (m_button->isVisible() && !m_menu->isVisible())
-        QMetaObject::invokeMethod(m_button, &QToolButton::showMenu, Qt::QueuedConnection);
+    m_button->reopenMenu();
 }
 
 void TFMultiYear::slotActionClickStatusChanged(bool)

@@ -5,8 +5,7 @@
 #include <QList>
 #include <QMap>
 
-class QMenu;
-class QToolButton;
+class TFMenuButton;
 
 /// Years to choose from: one, or many with ticks.
 class TFMultiYear : public TFBaseFilterWidget
@@ -32,8 +31,7 @@ private:
     void rebuildText();
     QStringList chosenTexts() const;
 
-    QToolButton *m_button;
-    QMenu *m_menu;
+    TFMenuButton *m_button;
     bool m_many;
     QList<int> m_chosen;
     QMap<int, QString> m_texts;

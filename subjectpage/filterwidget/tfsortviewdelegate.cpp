@@ -18,6 +18,12 @@ QWidget *TFSortViewDelegate::createEditor(QWidget *parent, const QStyleOptionVie
     return editor;
 }
 
+void TFSortViewDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                              const QModelIndex &) const
+{
+    editor->setGeometry(option.rect.adjusted(3, 1, -3, -1));
+}
+
 void TFSortViewDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     if (auto *list = qobject_cast<TFComboxView *>(editor)) {

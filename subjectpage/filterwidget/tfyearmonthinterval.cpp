@@ -37,7 +37,7 @@ TFYearMonthInterval::TFYearMonthInterval(const TFTableModelData::FilterData &row
     showCaption();
     layout->addWidget(m_startYear);
     layout->addWidget(m_startMonth);
-    layout->addWidget(new QLabel(QStringLiteral("-"), this));
+    layout->addWidget(makeDash(QStringLiteral("-")));
     layout->addWidget(m_endYear);
     layout->addWidget(m_endMonth);
 }

@@ -230,6 +230,10 @@ private slots:
 
         auto *list = box.findChild<QListWidget *>();
         auto *button = box.findChild<QToolButton *>();
+        list->item(2)->setCheckState(Qt::Unchecked);
+        box.slotCheckStatusChanged(list->item(2), false);
+        QCOMPARE(reported(&box), QString("F | == | stringList | [a|c|a]"));
+        QCOMPARE(list->item(0)->checkState(), Qt::Unchecked);
         box.slotCheckStatusChanged(list->item(0), false);
         QCOMPARE(reported(&box), QString("-"));
         list->item(2)->setCheckState(Qt::Checked);
