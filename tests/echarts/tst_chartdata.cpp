@@ -60,13 +60,11 @@ QJsonObject message(QByteArray (*write)(const ChartSet &, const Config &), const
 void TestChartData::patternSelectsRows()
 {
     const auto selected = [](int count, int pattern, int step) {
-        Rows rows;
-        for (int i = 1; i <= count; ++i)
-            rows.append({{"X", i}});
         Config config;
         config.XDisplayDataPattern = pattern;
         config.XDisplayStep = step;
-        return column(selectRows(rows, config), "X");
+        const Rows seven{{{"X", 1}}, {{"X", 2}}, {{"X", 3}}, {{"X", 4}}, {{"X", 5}}, {{"X", 6}}, {{"X", 7}}};
+        return column(selectRows(seven.mid(0, count), config), "X");
     };
     QCOMPARE(selected(1, EveryNthRow, 0), QString("1"));
     QCOMPARE(selected(3, EveryNthRow, 5), QString("1 2 3"));
@@ -194,34 +192,35 @@ void TestChartData::configurationAndRowsMakeSeries()
 void TestChartData::typeAndAxisShapeTheMixedMessage()
 {
     const QVector<QPair<QString, QString>> cases{
-        {"'ChartType':''", "{'data':[1],'name':'','type':'bar'}"},
-        {"'ChartType':'line'", "{'data':[1],'name':'','type':'bar'}"},
-        {"'ChartType':'XYPlot'", "{'data':[1],'name':'','type':'scatter'}"},
-        {"'ChartType':'LineSymbols'", "{'data':[1],'name':'','type':'line'}"},
-        {"'ChartType':'LineSmoothed'", "{'data':[1],'name':'','smooth':true,'type':'line'}"},
+        {"'ChartType':''", "{'type':'bar'}"},
+        {"'ChartType':'line'", "{'type':'bar'}"},
+        {"'ChartType':'XYPlot'", "{'type':'scatter'}"},
+        {"'ChartType':'LineSymbols'", "{'type':'line'}"},
+        {"'ChartType':'LineSmoothed'", "{'smooth':true,'type':'line'}"},
         {"'ChartType':'AreaStacked','SetStackGroup':1",
-         "{'areaStyle':{'normal':{}},'data':[1],'name':'','smooth':true,'type':'line'}"},
-        {"'ChartType':'Column','SetStackGroup':1", "{'barGap':0,'data':[1],'name':'','type':'bar'}"},
-        {"'ChartType':'ColumnStacked','SetStackGroup':2",
-         "{'barGap':0,'data':[1],'name':'','stack':2,'type':'bar'}"},
-        {"'ChartType':'ColumnStacked'", "{'barGap':0,'data':[1],'name':'','type':'bar'}"},
-        {"'ChartType':'Line','YShaftType':'Right'", "{'data':[1],'name':'','type':'line','yAxisIndex':1}"},
-        {"'ChartType':'Line','YShaftType':'right'", "{'data':[1],'name':'','type':'line'}"},
+         "{'areaStyle':{'normal':{}},'smooth':true,'type':'line'}"},
+        {"'ChartType':'Column','SetStackGroup':1", "{'barGap':0,'type':'bar'}"},
+        {"'ChartType':'ColumnStacked','SetStackGroup':2", "{'barGap':0,'stack':2,'type':'bar'}"},
+        {"'ChartType':'ColumnStacked'", "{'barGap':0,'type':'bar'}"},
+        {"'ChartType':'Line','YShaftType':'Right'", "{'type':'line','yAxisIndex':1}"},
+        {"'ChartType':'Line','YShaftType':'right'", "{'type':'line'}"},
     };
-    QStringList entries, expected;
+    QStringList entries, expected, found;
     for (const auto &[entry, series] : cases) {
-        entries << "{'FieldName':'V'," + entry + '}';
+        entries << '{' + entry + '}';
         expected << series;
     }
 
-    const QJsonObject sent = message(mixedMessage, "[{'X':'a','V':1}]",
+    const QJsonObject sent = message(mixedMessage, "[{'X':'a'}]",
                                      "{'XFieldName':'X','ChartDataConfigs':[" + entries.join(',') + "]}");
 
-    QStringList found;
-    for (const QJsonValue &series : sent["series"].toArray())
-        found << ChartJson::compact(series);
+    for (const QJsonValue &series : sent["series"].toArray()) {
+        QJsonObject object = series.toObject();
+        object.remove("data");
+        object.remove("name");
+        found << ChartJson::compact(object);
+    }
     QCOMPARE(found, expected);
-    QCOMPARE(sent["yAxis"].toArray().size(), 2);
     QCOMPARE(sent["yAxis"][1]["position"].toString(), QString("right"));
 }
 
@@ -294,6 +293,8 @@ void TestChartData::numbersRoundAndReadAsTheToolkitWritesThem()
                 << sign * std::ldexp(double(random()), int(random() % 160) - 130) << sign * digits / 1024
                 << sign * (double(random() % 1000) + std::pow(10, -double(random() % 8)));
     }
+    QList<double> values;
+    QJsonArray array;
     for (const double number : qAsConst(numbers)) {
         const int decimals = int(random() % 10);
         const double told = QString::number(number, 'f', decimals).toDouble();
@@ -302,17 +303,12 @@ void TestChartData::numbersRoundAndReadAsTheToolkitWritesThem()
                  qPrintable(QString("%1 to %2").arg(number, 0, 'g', 17).arg(decimals)));
         QVERIFY2(TFRounding::showsFraction(number) == QString::number(number).contains('.'),
                  qPrintable(QString::number(number, 'g', 17)));
-    }
-
-    QJsonArray array;
-    for (const double number : qAsConst(numbers)) {
-        array.append(number);
-        array.append(QString::number(number, 'f', 2).toDouble());
+        for (const double value : {number, told}) {
+            values.append(value);
+            array.append(value);
+        }
     }
     QByteArray written = "before";
-    QList<double> values;
-    for (const QJsonValue &value : qAsConst(array))
-        values.append(value.isNull() ? qQNaN() : value.toDouble());
     appendNumbers(written, values);
     QCOMPARE(written, "before" + QJsonDocument(array).toJson(QJsonDocument::Compact));
 }

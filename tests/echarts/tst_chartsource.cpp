@@ -13,9 +13,7 @@ private slots:
     void rowsAreDrawnByEachWayTheyCome();
     void configurationAloneAddsToWhatIsThere();
     void mainTablesRowsKeepTheirDateTexts();
-    void crossViewDrawsItsGroups();
     void pieIsSentAsOneWhileThereAreSeries();
-    void viewWithoutConfigurationFetchesItsOwnRows();
     void liveFilterIsAParameterWithAControl();
     void menuCallsWaitForTheMenuToGo();
 };
@@ -35,6 +33,10 @@ QString drawn(const TFDataSource &source)
 void TestChartSource::rowsAreDrawnByEachWayTheyCome()
 {
     TFDataSource source;
+    source.loadConfigAndData(QJsonValue("garbage"));
+    QVERIFY(source.isGetChartData() && !source.isCross() && !source.isFilterShown());
+    QVERIFY(source.order().key.isNull() && source.order().value.isNull());
+
     QSignalSpy cleared(&source, &TFDataSource::signalClear);
     source.loadConfigAndData(ChartJson::document(kLine, kRows));
     QCOMPARE(drawn(source), QString("b a: v 2 1"));
@@ -74,15 +76,6 @@ void TestChartSource::mainTablesRowsKeepTheirDateTexts()
     QVERIFY(!source.isGetChartData());
 }
 
-void TestChartSource::crossViewDrawsItsGroups()
-{
-    TFDataSource source;
-    source.loadConfigAndData(
-        ChartJson::document(kLine, "[{'X':'b','A__V':1,'B__V':2},{'X':'a','B__V':3}]", {{"IsCross", "1"}}));
-    QCOMPARE(drawn(source), QString("b a: Av 1 0 | Bv 2 3"));
-    QVERIFY(source.isCross());
-}
-
 void TestChartSource::pieIsSentAsOneWhileThereAreSeries()
 {
     TFDataSource source;
@@ -101,15 +94,6 @@ void TestChartSource::pieIsSentAsOneWhileThereAreSeries()
     source.slotRefreshChartDaTa();
     QCOMPARE(pies.count(), 1);
     QCOMPARE(mixed.count(), 0);
-}
-
-void TestChartSource::viewWithoutConfigurationFetchesItsOwnRows()
-{
-    TFDataSource source;
-    source.loadConfigAndData(QJsonValue("garbage"));
-    QVERIFY(source.isGetChartData());
-    QVERIFY(!source.isCross() && !source.isFilterShown() && !source.hasSeries());
-    QVERIFY(source.order().key.isNull() && source.order().value.isNull());
 }
 
 void TestChartSource::liveFilterIsAParameterWithAControl()

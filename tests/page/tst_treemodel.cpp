@@ -3,7 +3,6 @@
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 
-#include "filterwidget/tfcacheconfig.h"
 #include "tftreeitem.h"
 #include "tftreemodel.h"
 #include "treetext.h"
@@ -23,7 +22,6 @@ private slots:
     void nodeCarriesItsRow();
     void checkSpreadsToAllDescendants();
     void hundredThousandRowsInOneChainTakeNoLongTime();
-    void constantsAreFoundByTypeAndFilter();
 };
 
 void TestTreeModel::rowsHangUnderTheFirstRowWithTheirParentsCode_data()
@@ -154,29 +152,6 @@ void TestTreeModel::hundredThousandRowsInOneChainTakeNoLongTime()
         QCOMPARE(model.checkedCodes().size(), depth);
     }
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString("%1 ms").arg(timer.elapsed())));
-}
-
-void TestTreeModel::constantsAreFoundByTypeAndFilter()
-{
-    const auto names = [](const QString &type, const QString &filter) {
-        QStringList result;
-        for (const TFCacheRecord &record : TFCacheConfig::instance()->records(type, filter))
-            result << record.value + "=" + record.name;
-        return result.join(" ");
-    };
-    const auto constant = [](const QJsonValue &value, const QString &name, const QJsonValue &type,
-                             const QJsonValue &filter) {
-        return QJsonObject{{"VALUE", value}, {"NAME", name}, {"TYPE", type}, {"FILTER1", filter}};
-    };
-
-    TFCacheConfig::instance()->fill(QJsonArray{constant(1, "北京", 7, 86), constant(1234567, "上海", 7, 1),
-                                               constant("x", "文字", "T", "f"), 5});
-    QCOMPARE(names("7", ""), QString("1=北京 1.23457e+06=上海"));
-    QCOMPARE(names("7", "86"), QString("1=北京"));
-    QCOMPARE(names("T", "f"), QString("x=文字"));
-
-    TFCacheConfig::instance()->fill(QJsonObject{{"VALUE", 1}});
-    QCOMPARE(names("7", ""), QString());
 }
 
 SUBJECT_TEST_MAIN(TestTreeModel)

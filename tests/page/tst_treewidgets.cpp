@@ -32,8 +32,6 @@ private slots:
     void cleanup();
 
     void selectionGoesDownToALeafOrTheCaption();
-    void menuItemIsFoundByNameAndView();
-    void emptyTreeOpensNothing();
     void searchOpensTheFirstLeafThatRemains();
     void searchLineAsksAtTheEndOfEditing();
     void clickOpensWhatIsNotOpenYet();
@@ -55,80 +53,58 @@ private:
         return index;
     }
     void load() { m_container->loadMainTreeByCode("11", TreeText::navigation(), 2, QString()); }
-    QStringList opened() const;
+    /// "view caption address" of each opening since the last call.
+    QStringList opened() { return std::exchange(m_opened, {}); }
 
     std::unique_ptr<TFTreeWidgetContainer> m_container;
-    std::unique_ptr<QSignalSpy> m_clicks;
-    std::unique_ptr<QSignalSpy> m_groups;
+    QStringList m_opened;
+    QStringList m_groups;
 };
 
 void TestTreeWidgets::init()
 {
     beginMessages();
     m_container = std::make_unique<TFTreeWidgetContainer>();
-    m_clicks = std::make_unique<QSignalSpy>(m_container.get(), &TFTreeWidgetContainer::signalItemClicked);
-    m_groups = std::make_unique<QSignalSpy>(m_container.get(), &TFTreeWidgetContainer::groupChanged);
+    connect(m_container.get(), &TFTreeWidgetContainer::signalItemClicked, this,
+            [this](qlonglong view, const QString &caption, const QString &address) {
+                m_opened << QString("%1 %2 %3").arg(view).arg(caption, address).trimmed();
+            });
+    connect(m_container.get(), &TFTreeWidgetContainer::groupChanged, this,
+            [this](const QString &group) { m_groups << group; });
 }
 
 void TestTreeWidgets::cleanup()
 {
-    m_groups.reset();
-    m_clicks.reset();
     m_container.reset();
+    m_opened.clear();
+    m_groups.clear();
     endMessages();
-}
-
-/// "view caption address" of each opening since the last call.
-QStringList TestTreeWidgets::opened() const
-{
-    QStringList result;
-    while (!m_clicks->isEmpty()) {
-        const QVariantList arguments = m_clicks->takeFirst();
-        result << QString("%1 %2 %3")
-                      .arg(arguments[0].toString(), arguments[1].toString(), arguments[2].toString())
-                      .trimmed();
-    }
-    return result;
 }
 
 void TestTreeWidgets::selectionGoesDownToALeafOrTheCaption()
 {
-    const auto selected = [this](const QString &code, const QString &caption) {
+    const auto byCode = [this](const QString &code, const QString &caption) {
         const bool isBuilt = m_container->loadMainTreeByCode(code, TreeText::navigation(), 2, caption);
         return isBuilt ? pathOf(view()->currentIndex()) : "no tree";
     };
-    QCOMPARE(selected("13", ""), QString("行情/指数/Absolute"));
-    QCOMPARE(selected("20", ""), QString("公司/资料"));
+    QCOMPARE(byCode("13", ""), QString("行情/指数/Absolute"));
+    QCOMPARE(byCode("20", ""), QString("公司/资料"));
     QCOMPARE(opened(), QStringList({"261 Absolute", "263 资料"}));
-    QCOMPARE(selected("10", "指数"), QString("行情/指数")); // the caption ends the way down
+    QCOMPARE(byCode("10", "指数"), QString("行情/指数")); // the caption ends the way down
     QCOMPARE(opened(), QStringList());
-    QCOMPARE(selected("10", "abbey"), QString("行情/日线")); // not among the children on the way
-    QCOMPARE(selected("12", "ABBEY"), QString("行情/指数/Absolute"));
-    QCOMPARE(selected("999", ""), QString("行情/日线")); // no such code: from the first row
-    QCOMPARE(selected("x", "指数"), QString("行情/指数"));
-}
+    QCOMPARE(byCode("10", "abbey"), QString("行情/日线")); // not among the children on the way
+    QCOMPARE(byCode("12", "ABBEY"), QString("行情/指数/Absolute"));
+    QCOMPARE(byCode("999", ""), QString("行情/日线")); // no such code: from the first row
+    QCOMPARE(byCode("x", "指数"), QString("行情/指数"));
 
-void TestTreeWidgets::menuItemIsFoundByNameAndView()
-{
-    const auto selected = [this](const QString &item, int view, const QString &sector) {
-        const MenuItem record{sector, "", item, view};
-        const bool isBuilt = m_container->loadMainTreeByName(record, TreeText::navigation(), 2, "");
-        return isBuilt ? pathOf(this->view()->currentIndex()) : "no tree";
+    const auto byName = [this](const MenuItem &item) {
+        m_container->loadMainTreeByName(item, TreeText::navigation(), 2, "");
+        return pathOf(view()->currentIndex());
     };
-    QCOMPARE(selected("abbey", 262, "公司"), QString("行情/指数/abbey"));
-    QCOMPARE(selected("abbey", 1, "公司"), QString("公司/资料"));
-    QCOMPARE(selected("x", 1, "y"), QString("行情/日线"));
-    QCOMPARE(selected("", 0, ""), QString("行情/日线"));
-}
-
-void TestTreeWidgets::emptyTreeOpensNothing()
-{
-    QVERIFY(!m_container->loadMainTreeByName({}, QJsonArray(), 2, "x"));
-    QVERIFY(!m_container->loadMainTreeByCode("1", QJsonValue(), 2, "x"));
-    m_container->mainTree()->slotSearch("a");
-
-    QVERIFY(!m_container->mainTree()->hasRows());
-    QCOMPARE(opened(), QStringList());
+    QCOMPARE(byName({"公司", "", "abbey", 262}), QString("行情/指数/abbey"));
+    QCOMPARE(byName({"公司", "", "abbey", 1}), QString("公司/资料"));
+    QCOMPARE(byName({"y", "", "x", 1}), QString("行情/日线"));
+    QCOMPARE(byName({}), QString("行情/日线"));
 }
 
 void TestTreeWidgets::searchOpensTheFirstLeafThatRemains()
@@ -193,12 +169,10 @@ void TestTreeWidgets::leafTellsItsTopGroup()
     QJsonArray rows = TreeText::navigation();
     rows.append(TreeText::node(30, 2, "顶层叶", 1, 300));
     m_container->loadMainTreeByCode("13", rows, 2, QString());
-    QCOMPARE(m_groups->takeFirst().first().toString(), QString("行情"));
-
     emit view()->clicked(at({0, 1})); // a folder
     emit view()->clicked(at({2}));    // a leaf without a group
 
-    QCOMPARE(m_groups->count(), 0);
+    QCOMPARE(m_groups, QStringList("行情"));
 }
 
 void TestTreeWidgets::topGroupOpensWithAllBelow()
@@ -228,15 +202,13 @@ void TestTreeWidgets::topGroupOpensWithAllBelow()
 void TestTreeWidgets::keyboardOpensAndFolds()
 {
     load();
-    opened();
     view()->setCurrentIndex(at({1, 0}));
     QTest::keyClick(view(), Qt::Key_Return);
-    QCOMPARE(opened(), QStringList({"263 资料"}));
-
+    QCOMPARE(opened(), QStringList({"260 日线", "263 资料"}));
+    view()->collapseAll();
     view()->setCurrentIndex(at({1}));
-    const bool wasExpanded = view()->isExpanded(at({1}));
     QTest::keyClick(view(), Qt::Key_Enter);
-    QCOMPARE(view()->isExpanded(at({1})), !wasExpanded);
+    QVERIFY(view()->isExpanded(at({1})));
     QCOMPARE(opened(), QStringList());
 }
 
@@ -266,15 +238,14 @@ void TestTreeWidgets::blockTreeShowsWhenAViewAsks()
 void TestTreeWidgets::rootSectorIsFoundByNameAndCode()
 {
     m_container->loadBlockTree(TreeText::blocks());
-
-    m_container->setRootSector("沪深");
-    QCOMPARE(pathOf(blockView()->rootIndex()), QString("沪深"));
-    m_container->setRootSector("3");
-    QCOMPARE(pathOf(blockView()->rootIndex()), QString("沪深/深圳"));
-    m_container->setRootSector("nobody");
-    m_container->setRootSector("");
-
-    QCOMPARE(pathOf(blockView()->rootIndex()), QString("沪深/深圳"));
+    const auto root = [this](const QString &text) {
+        m_container->setRootSector(text);
+        return pathOf(blockView()->rootIndex());
+    };
+    QCOMPARE(root("沪深"), QString("沪深"));
+    QCOMPARE(root("3"), QString("沪深/深圳"));
+    QCOMPARE(root("nobody"), QString("沪深/深圳"));
+    QCOMPARE(root(""), QString("沪深/深圳"));
 }
 
 void TestTreeWidgets::newRowsReplaceTheTree()
@@ -284,9 +255,12 @@ void TestTreeWidgets::newRowsReplaceTheTree()
 
     m_container->loadMainTreeByCode("", QJsonArray{TreeText::node(40, 2, "新", 1, 400)}, 2, "");
     m_container->mainTree()->setModel(nullptr);
-
     QVERIFY(!old);
     QCOMPARE(TreeText::lines(*view()->model()), QStringList({"新"}));
+
+    QVERIFY(!m_container->loadMainTreeByName({}, QJsonArray(), 2, "x"));
+    m_container->mainTree()->slotSearch("a");
+    QVERIFY(!m_container->mainTree()->hasRows());
     QCOMPARE(opened(), QStringList({"260 日线", "400 新"}));
 }
 
