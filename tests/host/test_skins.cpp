@@ -66,133 +66,121 @@ class SkinsTest : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void textIsReadable_data();
-    void textIsReadable();
-    void fileIsInEverySkin_data();
-    void fileIsInEverySkin();
-    void sheetIsWholeAndUnderstood_data();
-    void sheetIsWholeAndUnderstood();
-    void skinGivesColoursToPaintedCode();
+    void initTestCase()
+    {
+        TFCore::instance()->setSkinRoot(skinRoot);
+        QCOMPARE(TFCore::instance()->skins(), (QStringList{"black", "mid", "white"}));
+    }
 
-private:
-    static void addSkinRows(const QStringList &files);
-};
+    void textIsReadable_data()
+    {
+        QTest::addColumn<QStringList>("texts");
+        QTest::addColumn<QStringList>("grounds");
+        testRow("on surfaces", QStringList{"text", "muted", "accent", "link", "rise", "fall", "warning"},
+                QStringList{"window", "panel", "header", "alternate", "hover", "control"});
+        testRow("on the selected row", QStringList{"selectedText"}, QStringList{"selected"});
+        testRow("on filled buttons", QStringList{"onAccent"},
+                QStringList{"accent", "accentHover", "accentDown"});
+        testRow("on tool tips", QStringList{"text"}, QStringList{"tip"});
+    }
 
-void SkinsTest::initTestCase()
-{
-    TFCore::instance()->setSkinRoot(skinRoot);
-    QCOMPARE(TFCore::instance()->skins(), (QStringList{"black", "mid", "white"}));
-}
+    void textIsReadable()
+    {
+        QFETCH(QStringList, texts);
+        QFETCH(QStringList, grounds);
+        const QJsonObject tokens = QJsonDocument::fromJson(content(tokenFile)).object();
+        const auto color = [&](const QString &token, const QString &skin) {
+            return QColor(tokens.value(token).toObject().value(skin).toString());
+        };
 
-void SkinsTest::textIsReadable_data()
-{
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QStringList>("grounds");
-    testRow("on surfaces", QStringList{"text", "muted", "accent", "link", "rise", "fall", "warning"},
-            QStringList{"window", "panel", "header", "alternate", "hover", "control"});
-    testRow("on the selected row", QStringList{"selectedText"}, QStringList{"selected"});
-    testRow("on filled buttons", QStringList{"onAccent"}, QStringList{"accent", "accentHover", "accentDown"});
-    testRow("on tool tips", QStringList{"text"}, QStringList{"tip"});
-}
-
-void SkinsTest::textIsReadable()
-{
-    QFETCH(QStringList, texts);
-    QFETCH(QStringList, grounds);
-    const QJsonObject tokens = QJsonDocument::fromJson(content(tokenFile)).object();
-    const auto color = [&](const QString &token, const QString &skin) {
-        return QColor(tokens.value(token).toObject().value(skin).toString());
-    };
-
-    QStringList faint;
-    for (const QString &skin : TFCore::instance()->skins()) {
-        for (const QString &text : texts) {
-            for (const QString &ground : grounds) {
-                const double ratio = contrast(color(text, skin), color(ground, skin));
-                if (!(ratio >= 4.5))
-                    faint << QString("%1: %2 on %3 is %4 : 1").arg(skin, text, ground).arg(ratio);
+        QStringList faint;
+        for (const QString &skin : TFCore::instance()->skins()) {
+            for (const QString &text : texts) {
+                for (const QString &ground : grounds) {
+                    const double ratio = contrast(color(text, skin), color(ground, skin));
+                    if (!(ratio >= 4.5))
+                        faint << QString("%1: %2 on %3 is %4 : 1").arg(skin, text, ground).arg(ratio);
+                }
             }
         }
+
+        QCOMPARE(faint.join('\n'), QString());
     }
 
-    QCOMPARE(faint.join('\n'), QString());
-}
+    void fileIsInEverySkin_data() { addSkinRows(picturesOfThePlugin()); }
 
-void SkinsTest::addSkinRows(const QStringList &files)
-{
-    QTest::addColumn<QString>("skin");
-    QTest::addColumn<QString>("file");
-    for (const QString &skin : TFCore::instance()->skins()) {
-        for (const QString &file : files)
-            QTest::addRow("%s %s", qPrintable(skin), qPrintable(file)) << skin << file;
+    void fileIsInEverySkin()
+    {
+        QFETCH(QString, skin);
+        QFETCH(QString, file);
+        const QString path = skinRoot + '/' + skin + '/' + file;
+
+        const QImage image(path);
+        QVERIFY(!image.isNull());
+        if (file.endsWith(".gif")) {
+            QCOMPARE(image.size(), QSize(32, 32));
+            QVERIFY(QMovie(path).frameCount() > 1);
+            return;
+        }
+        const QImage doubled(QString(path).replace(".png", "@2x.png"));
+        QCOMPARE(doubled.size(), image.size() * 2);
     }
-}
 
-void SkinsTest::fileIsInEverySkin_data()
-{
-    addSkinRows(picturesOfThePlugin());
-}
-
-void SkinsTest::fileIsInEverySkin()
-{
-    QFETCH(QString, skin);
-    QFETCH(QString, file);
-    const QString path = skinRoot + '/' + skin + '/' + file;
-
-    const QImage image(path);
-    QVERIFY(!image.isNull());
-    if (file.endsWith(".gif")) {
-        QCOMPARE(image.size(), QSize(32, 32));
-        QVERIFY(QMovie(path).frameCount() > 1);
-        return;
+    void sheetIsWholeAndUnderstood_data()
+    {
+        addSkinRows({"subject/subject.css", "subject/pagination.css", "terminal.css"});
     }
-    const QImage doubled(QString(path).replace(".png", "@2x.png"));
-    QCOMPARE(doubled.size(), image.size() * 2);
-}
 
-void SkinsTest::sheetIsWholeAndUnderstood_data()
-{
-    addSkinRows({"subject/subject.css", "subject/pagination.css", "terminal.css"});
-}
+    void sheetIsWholeAndUnderstood()
+    {
+        QFETCH(QString, skin);
+        QFETCH(QString, file);
+        const QDir folder(skinRoot + '/' + skin);
+        const QString sheet = QString::fromUtf8(content(folder.filePath(file)));
+        QVERIFY(!sheet.isEmpty());
+
+        QStringList missing;
+        static const QRegularExpression url(R"re(url\("([^"]*)"\))re");
+        for (auto it = url.globalMatch(sheet); it.hasNext();) {
+            const QString icon = it.next().captured(1);
+            if (QImage(folder.filePath(icon)).isNull())
+                missing << icon;
+        }
+        QCOMPARE(missing, QStringList());
+        QVERIFY2(!sheet.contains('@'), "a placeholder is left");
+        QWidget widget;
+        widget.setStyleSheet(sheet);
+        widget.ensurePolished();
+    }
+
+    void skinGivesColoursToPaintedCode()
+    {
+        for (const QString &skin : TFCore::instance()->skins()) {
+            QVERIFY(TFCore::instance()->setCurrentSkin(skin));
+
+            const QPalette palette = TFSkinPalette::current(QPalette());
+            const double text =
+                contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+            QVERIFY2(text >= 4.5, qPrintable(skin));
+            QCOMPARE(TFGlobalCss::getTipsColorByIndex(1), palette.color(QPalette::WindowText));
+            QCOMPARE(TFGlobalCss::getTipsColorByIndex(2), palette.color(QPalette::Mid));
+        }
+        QVERIFY(TFCore::instance()->setCurrentSkin("black"));
+        QCOMPARE(TFSkinPalette::current(QPalette()).color(QPalette::Window), QColor("#080B10"));
+    }
+
+private:
+    static void addSkinRows(const QStringList &files)
+    {
+        QTest::addColumn<QString>("skin");
+        QTest::addColumn<QString>("file");
+        for (const QString &skin : TFCore::instance()->skins()) {
+            for (const QString &file : files)
+                QTest::addRow("%s %s", qPrintable(skin), qPrintable(file)) << skin << file;
+        }
+    }
+};
 
 // The toolkit warns about a sheet that it cannot parse, and an unannounced warning fails the test.
-void SkinsTest::sheetIsWholeAndUnderstood()
-{
-    QFETCH(QString, skin);
-    QFETCH(QString, file);
-    const QDir folder(skinRoot + '/' + skin);
-    const QString sheet = QString::fromUtf8(content(folder.filePath(file)));
-    QVERIFY(!sheet.isEmpty());
-
-    QStringList missing;
-    static const QRegularExpression url(R"re(url\("([^"]*)"\))re");
-    for (auto it = url.globalMatch(sheet); it.hasNext();) {
-        const QString icon = it.next().captured(1);
-        if (QImage(folder.filePath(icon)).isNull())
-            missing << icon;
-    }
-    QCOMPARE(missing, QStringList());
-    QVERIFY2(!sheet.contains('@'), "a placeholder is left");
-    QWidget widget;
-    widget.setStyleSheet(sheet);
-    widget.ensurePolished();
-}
-
-void SkinsTest::skinGivesColoursToPaintedCode()
-{
-    for (const QString &skin : TFCore::instance()->skins()) {
-        QVERIFY(TFCore::instance()->setCurrentSkin(skin));
-
-        const QPalette palette = TFSkinPalette::current(QPalette());
-        const double text = contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
-        QVERIFY2(text >= 4.5, qPrintable(skin));
-        QCOMPARE(TFGlobalCss::getTipsColorByIndex(1), palette.color(QPalette::WindowText));
-        QCOMPARE(TFGlobalCss::getTipsColorByIndex(2), palette.color(QPalette::Mid));
-    }
-    QVERIFY(TFCore::instance()->setCurrentSkin("black"));
-    QCOMPARE(TFSkinPalette::current(QPalette()).color(QPalette::Window), QColor("#080B10"));
-}
-
 SUBJECT_TEST_MAIN(SkinsTest)
 #include "test_skins.moc"

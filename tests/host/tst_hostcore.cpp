@@ -3,7 +3,6 @@
 #include "tfcore/tfcore.h"
 #include "tfcore/tfframelesshelper.h"
 #include "tfcore/tfglobalcss.h"
-#include "tfcore/tfobjectpool.h"
 #include "tfcore/tfrequestlog.h"
 #include "tfcore/tfserviceconfig.h"
 #include "tfcore/tfwebview.h"
@@ -22,17 +21,6 @@ public:
     void applySkinStyle(const QVariant &style) override { sheets.append(style.toString()); }
 
     QStringList sheets;
-};
-
-class Screen : public QObject
-{
-    Q_OBJECT
-
-public:
-    Q_INVOKABLE void getArgsDlg(const QString &key, QString &chosen) { chosen = key + "!"; }
-    Q_INVOKABLE void settingsChanged() { ++changes; }
-
-    int changes = 0;
 };
 
 void write(const QString &path, const QByteArray &text)
@@ -134,35 +122,14 @@ private slots:
         QVERIFY(!TFGlobalCss::getTipsColorByIndex(1).isValid());
     }
 
-    void invokerFindsAMethodByNameAndLetsItWriteToAnArgument()
-    {
-        Screen screen;
-        QString key = "A", chosen;
-        QVERIFY(InvokerBase().bind("QString", &key).bind("QString", &chosen).invoke(&screen, "getArgsDlg"));
-        QCOMPARE(chosen, QString("A!"));
-        QVERIFY(InvokerBase().invoke(&screen, "settingsChanged"));
-        QCOMPARE(screen.changes, 1);
-    }
-
     void invokerRefusesWhatDoesNotFit()
     {
-        Screen screen;
-        int number = 1;
-        QVERIFY(!InvokerBase().invoke(nullptr, "settingsChanged"));
-        expectWarning("Screen has no method");
-        QVERIFY(!InvokerBase().bind("int", &number).invoke(&screen, "settingsChanged"));
-        QCOMPARE(screen.changes, 0);
-    }
-
-    void poolForgetsObjectsThatAreDeleted()
-    {
-        TFObjectPool *pool = TFObjectPool::instance();
-        auto object = std::make_unique<QObject>();
-        object->setProperty("id", "TFApp.GONE");
-        pool->addObject(object.get());
-        QCOMPARE(pool->find("TFApp.GONE"), object.get());
-        object.reset();
-        QCOMPARE(pool->find("TFApp.GONE"), nullptr);
+        QTimer timer;
+        QString text;
+        QVERIFY(!InvokerBase().invoke(nullptr, "start"));
+        expectWarning("QTimer has no method");
+        QVERIFY(!InvokerBase().bind("QString", &text).invoke(&timer, "start"));
+        QVERIFY(!timer.isActive());
     }
 
     void requestsReportedOnPoolThreadsArriveHereInOrder()

@@ -27,9 +27,10 @@ Answer answerOf(QNetworkReply *reply)
 
 RunningService::RunningService(const ServiceFixture &fixture, const QStringList &more)
 {
-    m_process.start(
-        QStringLiteral(SERVICE_PROGRAM),
-        QStringList{"--db", fixture.databaseAddress(), "--views", fixture.viewFolder(), "--port", "0", "--exit-with-parent"} + more);
+    m_process.start(QStringLiteral(SERVICE_PROGRAM),
+                    QStringList{"--db", fixture.databaseAddress(), "--views", fixture.viewFolder(), "--port",
+                                "0", "--exit-with-parent"} +
+                        more);
     while (!m_process.canReadLine() && m_process.waitForReadyRead(20000)) {
     }
     m_line = QString::fromUtf8(m_process.readLine()).trimmed();

@@ -214,7 +214,8 @@ private:
     {
         QDateTime first = moment();
         QDateTime last = first;
-        QJsonValue value = QString("[%1]").arg(first.toString("yyyy-MM-dd HH:mm:ss"));
+        const bool isPlainDay = first.time() == QTime(0, 0) && oneOf(2);
+        QJsonValue value = first.toString(isPlainDay ? "[yyyy-MM-dd]" : "[yyyy-MM-dd HH:mm:ss]");
         switch (below(4)) {
         case 0:
             first = QDateTime(QDate(first.date().year(), first.date().month(), 1), QTime(0, 0));

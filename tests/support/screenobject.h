@@ -10,17 +10,23 @@ class ScreenObject : public QObject
     Q_PROPERTY(QVariantMap args READ args)
 
 public:
-    explicit ScreenObject(QObject *parent = nullptr);
-
     /// Components that are made below \a parent from now on find this screen.
     void offerOn(QObject *parent) { parent->setProperty("zhpObj", QVariant::fromValue<QObject *>(this)); }
 
     QVariantMap args() const { return m_args; }
     /// Tells the components too.
-    void setArgs(const QVariantMap &args);
+    void setArgs(const QVariantMap &args)
+    {
+        m_args = args;
+        emit argsChanged(args);
+    }
 
     /// Answers with \c choice.
-    Q_INVOKABLE void getArgsDlg(QString current, QString &chosen);
+    Q_INVOKABLE void getArgsDlg(QString current, QString &chosen)
+    {
+        askedWith = current;
+        chosen = choice;
+    }
     Q_INVOKABLE void settingsChanged() { ++settingsChanges; }
 
     QString choice;
