@@ -39,7 +39,7 @@ QStringList picturesOfThePlugin()
     QSet<QString> files{"subject.png",       "subject/download_hover.png",   "subject/loading.gif",
                         "subject/save.png",  "subject/tree_item_normal.png", "subject/tree_item_normal_2.png",
                         "subject/search.png"};
-    static const QRegularExpression name(R"re("(subject(?:/\w+)?\.(?:png|gif))")re");
+    static const QRegularExpression name("\"(subject(?:/\\w+)?\\.(?:png|gif))\"");
     QDirIterator sources(PROJECT_SOURCE_DIR "/subjectpage", {"*.cpp"}, QDir::Files,
                          QDirIterator::Subdirectories);
     while (sources.hasNext()) {
@@ -140,7 +140,7 @@ private slots:
         QVERIFY(!sheet.isEmpty());
 
         QStringList missing;
-        static const QRegularExpression url(R"re(url\("([^"]*)"\))re");
+        static const QRegularExpression url("url\\(\"([^\"]*)\"\\)");
         for (auto it = url.globalMatch(sheet); it.hasNext();) {
             const QString icon = it.next().captured(1);
             if (QImage(folder.filePath(icon)).isNull())
