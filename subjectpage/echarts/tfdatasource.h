@@ -52,7 +52,7 @@ public:
     QString xField() const { return m_chart.XFieldName; }
     /// The last message that went to the page; empty before the first and after a clear.
     QByteArray lastMessage() const { return m_lastMessage; }
-    /// Whether the chart in force is a pie.
+    /// Whether the last chart is a pie.
     bool isPie() const;
     /// Messages and clears sent so far.
     int sentCount() const { return m_sentCount; }
