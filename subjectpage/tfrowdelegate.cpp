@@ -26,12 +26,12 @@ TFRowDelegate::TFRowDelegate(bool isBlock, QObject *parent)
 
 void TFRowDelegate::loadMarkers()
 {
-    const QString path =
-        TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal_2.png"));
-    m_marker = QIcon(path);
-    m_markerSize = QImageReader(path).size();
-    m_activeMarker =
-        QIcon(TFCore::instance()->getCurrentSkinPath(QStringLiteral("subject/tree_item_normal.png")));
+    const auto load = [](const QString &name) {
+        const QString path = TFCore::instance()->getCurrentSkinPath(name);
+        return Marker{QIcon(path), QImageReader(path).size()};
+    };
+    m_marker = load(QStringLiteral("subject/tree_item_normal_2.png"));
+    m_activeMarker = load(QStringLiteral("subject/tree_item_normal.png"));
 }
 
 bool TFRowDelegate::isOpen(const QModelIndex &index) const
@@ -60,10 +60,11 @@ void TFRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 void TFRowDelegate::paintMarker(QPainter *painter, const QStyleOptionViewItem &option) const
 {
     const bool isActive = option.state & (QStyle::State_Selected | QStyle::State_MouseOver);
-    QRect place(QPoint(option.rect.left() - markerIndent, 0), m_markerSize);
+    const Marker &marker = isActive ? m_activeMarker : m_marker;
+    QRect place(QPoint(option.rect.left() - markerIndent, 0), marker.size);
     place.moveTop(option.rect.top() + (option.rect.height() - place.height()) / 2);
     // An icon picks the picture for the scale factor of the screen.
-    (isActive ? m_activeMarker : m_marker).paint(painter, place);
+    marker.icon.paint(painter, place);
 }
 
 void TFRowDelegate::paintAccentBar(QPainter *painter, const QStyleOptionViewItem &option) const

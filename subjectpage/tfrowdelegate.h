@@ -33,6 +33,12 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    struct Marker
+    {
+        QIcon icon;
+        QSize size;
+    };
+
     bool isOpen(const QModelIndex &index) const;
     void paintMarker(QPainter *painter, const QStyleOptionViewItem &option) const;
     void paintAccentBar(QPainter *painter, const QStyleOptionViewItem &option) const;
@@ -40,7 +46,6 @@ private:
     bool m_isBlock;
     const QStandardItem *m_openItem = nullptr;
     QColor m_accentColor;
-    QIcon m_marker;
-    QIcon m_activeMarker;
-    QSize m_markerSize;
+    Marker m_marker;
+    Marker m_activeMarker;
 };
