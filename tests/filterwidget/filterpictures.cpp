@@ -101,7 +101,7 @@ bool drawExamples(const QList<Picture> &examples, const QString &folder)
     return true;
 }
 
-/// All examples in one bar, some of them changed, and what pops up from them.
+/// All examples in one bar, some of them changed, what pops up from them, and the sort dialog.
 bool drawBar(const QList<Picture> &examples, const QString &prefix)
 {
     Rows rows;
@@ -121,17 +121,12 @@ bool drawBar(const QList<Picture> &examples, const QString &prefix)
     calendar->setSelectedDate(QDate(2020, 7, 31));
     auto *box = stage.bar->findChild<QComboBox *>();
     box->showPopup();
+    TFSortView sorting({QStringLiteral("最新价"), QStringLiteral("涨跌幅")});
+    sorting.on_pushButton_2_clicked();
+    sorting.on_pushButton_2_clicked();
+    sorting.show();
     return save(*menu, prefix + "-ticks.png") && save(*calendar, prefix + "-calendar.png") &&
-           save(*box->view()->window(), prefix + "-list.png");
-}
-
-bool drawSortDialog(const QString &file)
-{
-    TFSortView view({QStringLiteral("最新价"), QStringLiteral("涨跌幅")});
-    view.on_pushButton_2_clicked();
-    view.on_pushButton_2_clicked();
-    view.show();
-    return save(view, file);
+           save(*box->view()->window(), prefix + "-list.png") && save(sorting, prefix + "-sort.png");
 }
 } // namespace
 
@@ -159,6 +154,5 @@ int main(int argc, char *argv[])
     const QString folder = arguments.at(2);
     if (arguments.size() <= 3)
         return drawExamples(examples, folder) ? 0 : 1;
-    const QString prefix = folder + '/' + skin;
-    return drawBar(examples, prefix) && drawSortDialog(prefix + "-sort.png") ? 0 : 1;
+    return drawBar(examples, folder + '/' + skin) ? 0 : 1;
 }

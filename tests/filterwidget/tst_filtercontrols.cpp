@@ -54,15 +54,9 @@ class TestFilterControls : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void init()
+    void initTestCase()
     {
-        beginMessages();
         TFClock::setNow([] { return QDateTime(QDate(2021, 5, 20), QTime(10, 0)); });
-    }
-    void cleanup()
-    {
-        TFClock::setNow(nullptr);
-        endMessages();
     }
 
     void classNameSelectsTheControlInOrder()
@@ -227,32 +221,25 @@ private slots:
         }
     }
 
-    void catalogueNamesPeriodsAndSuffixes_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("shown");
-        testRow("Chinese", int(TFServiceConfig::Chinese), "2019年|半年报");
-        testRow("English", int(TFServiceConfig::English), "2019年|Half year");
-    }
     void catalogueNamesPeriodsAndSuffixes()
     {
-        QFETCH(int, language);
-        TFServiceConfig::instance()->setCurrentLang(language);
-        QVERIFY(TFTranslations::install());
         Row r = row("ReportDateSimple5", "F", "=date'2019-06-30'");
         r.ParameterCategory = "1";
-        {
+        const QMap<int, QString> shown{{TFServiceConfig::English, "2019年|Half year"},
+                                       {TFServiceConfig::Chinese, "2019年|半年报"}};
+        for (int language : {TFServiceConfig::English, TFServiceConfig::Chinese}) {
+            TFServiceConfig::instance()->setCurrentLang(language);
+            QVERIFY(TFTranslations::install());
             TFFilterWidget bar;
             const auto *control = TFFilterCtlFactory::createWidget(r, &bar);
             const auto boxes = control->findChildren<QComboBox *>();
-            QTEST(boxes.first()->currentText() + '|' + boxes.last()->currentText(), "shown");
-            QCOMPARE(control->getCntrl().value.toString(), QString("2019-06-30"));
+            QCOMPARE(boxes.first()->currentText() + '|' + boxes.last()->currentText(), shown[language]);
+            QCOMPARE(text(control->getCntrl().value), QString("2019-06-30"));
             const auto *month =
                 TFFilterCtlFactory::createWidget(row("YearMonthSimple", "F", "2019-03-01"), &bar);
-            QCOMPARE(month->getCntrl().value.toString(), QString("201903"));
+            QCOMPARE(text(month->getCntrl().value), QString("201903"));
         }
         TFTranslations::remove();
-        TFServiceConfig::instance()->setCurrentLang(TFServiceConfig::Chinese);
     }
 
     void reportPeriodGoesOutByItsCategory_data()
