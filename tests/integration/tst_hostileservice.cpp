@@ -70,57 +70,38 @@ private:
 
     QJsonValue changed(const QJsonValue &value)
     {
-        const QString text = value.toString();
-        if (below(25) > 0 && !value.toObject().isEmpty())
-            return changedObject(value.toObject());
-        if (below(25) > 0 && !value.toArray().isEmpty())
-            return changedArray(value.toArray());
-        if (below(25) > 0 && (text.startsWith('[') || text.startsWith('{'))) {
-            const QJsonArray held = QJsonDocument::fromJson('[' + text.toUtf8() + ']').array();
-            return QString(compact(QJsonArray{changed(held.first())})).mid(1).chopped(1);
-        }
-        return fault();
-    }
-
-    QJsonObject changedObject(QJsonObject object)
-    {
-        const QStringList keys = object.keys();
-        const QString key = keys.at(below(keys.size()));
-        const int kind = below(12);
-        const QJsonValue value = object.take(key);
-        if (kind == 1)
-            object.insert(below(2) ? key.toLower() : key + 'x', value);
-        else if (kind == 2)
-            object.insert(key, object.value(keys.at(below(keys.size()))));
-        else if (kind > 2)
-            object.insert(key, changed(value));
-        return object;
-    }
-
-    QJsonArray changedArray(QJsonArray array)
-    {
-        const int i = below(array.size());
-        const int kind = below(12);
-        if (kind == 0)
-            array.removeAt(i);
-        for (int copies = below(10) ? 2 : 200; kind == 1 && copies > 0; --copies)
-            array.append(array.at(i));
-        if (kind > 1)
-            array.replace(i, changed(array.at(i)));
-        return array;
-    }
-
-    QJsonValue fault()
-    {
         static const QJsonArray faults =
             QJsonDocument::fromJson(R"([null, true, -1, 0.5, 1e300, 1e9, 2147483648,
             -9007199254740993, [], {}, "", "x", "[", "${a}", "=$Now([", "%1", "a;b", "a=b", "date'0000-99-99'",
-            "/Date(99999999999999999+0800)/"])")
+            "/Date(99999999999999999+0800)/", ")" +
+                                    QByteArray(70000, 'w') + "\"," + QByteArray(400, '[') +
+                                    QByteArray(400, ']') + ']')
                 .array();
-        QJsonValue deep = QString(below(2) ? 70000 : 1, 'w');
-        for (int i = below(500); i > 0 && below(2); --i)
-            deep = QJsonArray{deep};
-        return below(10) ? faults.at(below(faults.size())) : deep;
+        QJsonObject object = value.toObject();
+        QJsonArray array = value.toArray();
+        const QByteArray text = value.toString().toUtf8();
+        const int kind = below(12);
+        if (below(25) == 0 || (object.isEmpty() && array.isEmpty() && text.indexOf('"') < 0))
+            return faults.at(below(faults.size()));
+        if (!object.isEmpty()) {
+            const QString key = object.keys().at(below(object.size()));
+            const QJsonValue member = object.take(key);
+            if (kind > 0)
+                object.insert(kind == 1 ? key.toLower() + 'x' : key, kind == 1 ? member : changed(member));
+            return object;
+        }
+        if (array.isEmpty()) {
+            const QJsonArray held = QJsonDocument::fromJson('[' + text + ']').array();
+            return QString(compact(QJsonArray{changed(held.first())})).mid(1).chopped(1);
+        }
+        const int i = below(array.size());
+        for (int copies = below(10) ? 2 : 200; kind == 1 && copies > 0; --copies)
+            array.append(array.at(i));
+        if (kind == 0)
+            array.removeAt(i);
+        else if (kind > 1)
+            array.replace(i, changed(array.at(i)));
+        return array;
     }
 
     void spoilBytes(QByteArray &text)
@@ -237,27 +218,23 @@ private:
     {
         static const QStringList words{"row",    "sort", "page",   "pageSize", "query", "tab",
                                        "search", "link", "export", "filter",   "show",  "show"};
+        QJsonObject step{
+            {"row", 0}, {"number", 2}, {"size", 500}, {"text", "a"}, {"folder", m_folder.path()}};
         const int any = m_spoiler->below(6);
         const QString word = words.at(m_spoiler->below(words.size()));
         const QJsonArray controls =
             inspection(page)->describe().value("main").toObject().value("controls").toArray();
         const QJsonObject control = controls.at(m_spoiler->below(controls.size())).toObject();
-        const QJsonValue entry = control.value("entries").toArray().at(any).toString("2001-01-01");
+        step.insert("do", word);
+        step.insert("index", any);
+        step.insert("column", any);
+        step.insert("caption", control.value("label"));
+        step.insert("value", control.value("entries").toArray().at(any).toString("2001-01-01"));
         QString reason;
         if (word == "show")
             show(page);
         else
-            inspection(page)->perform({{"do", word},
-                                       {"row", 0},
-                                       {"index", any},
-                                       {"column", any},
-                                       {"number", 2},
-                                       {"size", 500},
-                                       {"text", "a"},
-                                       {"caption", control.value("label")},
-                                       {"value", entry},
-                                       {"folder", m_folder.path()}},
-                                      &reason);
+            inspection(page)->perform(step, &reason);
         TFSubjectPage another; // closed while it loads
         another.init(QUrl("view://subjectpage?pnodecode=61&objvwid=" + anyView()), {});
         QTest::qWait(any * 3);
