@@ -130,10 +130,9 @@ void TestService::answer(QTcpSocket *socket, const Answer &answer)
     }
     if (socket->state() != QAbstractSocket::ConnectedState)
         return; // the client has gone in the meantime
-    QByteArray head =
-        "HTTP/1.1 " + QByteArray::number(answer.status) + " Answer\r\nConnection: close\r\n" +
-        "Content-Type: application/json\r\nContent-Length: " +
-        QByteArray::number(answer.text.size() + answer.missing) + "\r\n";
+    QByteArray head = "HTTP/1.1 " + QByteArray::number(answer.status) + " Answer\r\nConnection: close\r\n" +
+                      "Content-Type: application/json\r\nContent-Length: " +
+                      QByteArray::number(answer.text.size() + answer.missing) + "\r\n";
     for (const QByteArray &line : answer.headers)
         head += line + "\r\n";
     socket->write(head + "\r\n" + answer.text);
