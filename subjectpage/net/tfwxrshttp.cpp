@@ -58,17 +58,13 @@ constexpr char UserHeader[] = "userId";
 constexpr char ProductHeader[] = "prodId";
 constexpr char JsonContent[] = "application/json";
 
-/// Made once: each copy is a reference.
-const QSslConfiguration &trustingConfiguration()
+QSslConfiguration trustingConfiguration()
 {
-    static const QSslConfiguration configuration = [] {
-        QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
-        ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
-        ssl.setProtocol(QSsl::AnyProtocol);
-        ssl.setSslOption(QSsl::SslOptionDisableLegacyRenegotiation, false);
-        return ssl;
-    }();
-    return configuration;
+    QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
+    ssl.setPeerVerifyMode(QSslSocket::VerifyNone);
+    ssl.setProtocol(QSsl::AnyProtocol);
+    ssl.setSslOption(QSsl::SslOptionDisableLegacyRenegotiation, false);
+    return ssl;
 }
 
 QNetworkRequest makeRequest(const QUrl &url, const TFWXRSHttp::Headers &headers)
