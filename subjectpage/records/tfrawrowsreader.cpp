@@ -228,17 +228,33 @@ bool TFRawRowsReader::readNumber(TFJsonCursor &cursor)
         mantissa = mantissa * 10 + (*at++ - '0');
     const bool isStrict = at > digits && (*digits != '0' || at == digits + 1);
     const char *point = at;
+    bool isExact = true;
     if (*at == '.' && isDigit(at[1])) {
         for (++at; isDigit(*at) && at - digits <= ExactDigits; ++at)
             mantissa = mantissa * 10 + (*at - '0');
+        isExact = !isDigit(*at);
+        while (isDigit(*at))
+            ++at;
     }
     if (!isStrict || !cursor.endValue(at)) {
         cursor.skipValue();
         return readOther(begin, cursor.at());
     }
+    if (!isExact)
+        return readLong(begin, at);
     if (*begin == '-')
         mantissa = -mantissa;
     appendDecimal(mantissa, at == point ? 0 : int(at - point) - 1);
+    return true;
+}
+
+/// A decimal with more digits than one division gives exactly.
+bool TFRawRowsReader::readLong(const char *begin, const char *end)
+{
+    const double number = QByteArray::fromRawData(begin, int(end - begin)).toDouble();
+    if (number == std::trunc(number))
+        return readOther(begin, end);
+    m_rows->values().appendNumber(number);
     return true;
 }
 

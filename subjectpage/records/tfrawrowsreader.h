@@ -44,6 +44,7 @@ private:
     bool readValue(TFJsonCursor &cursor);
     bool readText(TFJsonCursor &cursor);
     bool readNumber(TFJsonCursor &cursor);
+    bool readLong(const char *begin, const char *end);
     void appendDecimal(qint64 mantissa, int decimals);
     bool readOther(const char *begin, const char *end);
 
