@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -117,7 +118,10 @@ bool drawBar(const QList<Picture> &examples, const QString &prefix)
     auto *list = stage.bar->findChild<QListWidget *>();
     QWidget *menu = list->parentWidget();
     menu->adjustSize();
-    QCalendarWidget *calendar = stage.bar->findChild<QDateEdit *>()->calendarWidget();
+    auto *date = stage.bar->findChild<QDateEdit *>();
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(date, &press);
+    QCalendarWidget *calendar = date->calendarWidget();
     calendar->setSelectedDate(QDate(2020, 7, 31));
     auto *box = stage.bar->findChild<QComboBox *>();
     box->showPopup();
