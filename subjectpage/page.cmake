@@ -45,6 +45,7 @@ target_sources(subjectui PRIVATE
 target_sources(subjectcore PRIVATE
     tfexcelwritter.cpp tfexcelwritter.h
     tfexcelwritterjob.cpp tfexcelwritterjob.h
+    tfexportreadingjob.cpp tfexportreadingjob.h
 )
 target_sources(subjectui PRIVATE
     tfsubjecttableexport.cpp tfsubjecttableexport.h

@@ -1,12 +1,12 @@
 #include "tfsubjecttableexport.h"
 
-#include "jsonparser/tfjsonparser.h"
 #include "mulittable/tfheaderdatastruct.h"
 #include "net/tfdm.h"
 #include "records/tfancestors.h"
 #include "records/tfcategories.h"
 #include "records/tfclock.h"
 #include "tfexcelwritterjob.h"
+#include "tfexportreadingjob.h"
 #include "tfsubjecttableexportprogress.h"
 
 #include <QCoreApplication>
@@ -22,9 +22,7 @@
 
 namespace {
 constexpr int kOpenType = 0;
-constexpr int kPollInterval = 50;   ///< milliseconds
-constexpr int kLongReply = 2 << 20; ///< bytes that take longer to read than a user waits without a word
-constexpr int kPaintTime = 60;      ///< milliseconds for a dialog to come up
+constexpr int kPollInterval = 20; ///< milliseconds
 const char kMainFrameClass[] = "TFSubjectMainFrame";
 const QString kSuffix = QStringLiteral(".xlsx");
 
@@ -61,28 +59,27 @@ TFSubjectTableExport::TFSubjectTableExport(QWidget *table)
 
 TFSubjectTableExport::~TFSubjectTableExport()
 {
-    if (m_job)
-        m_job->giveUp();
+    giveUpJobs();
 }
 
 void TFSubjectTableExport::exportRows(int type, const TFUc::TFRequestContent &content,
-                                      TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+                                      const TFTreeStruct *header)
 {
     if (isBusy())
         return;
     m_ending = ShowMessage;
     m_folder.clear();
-    request(type, content, parser, header);
+    request(type, content, header);
 }
 
 bool TFSubjectTableExport::exportTo(const QString &folder, const TFUc::TFRequestContent &content,
-                                    TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+                                    const TFTreeStruct *header)
 {
     if (isBusy())
         return false;
     m_ending = Silent;
     m_folder = folder;
-    request(kOpenType, content, parser, header);
+    request(kOpenType, content, header);
     return true;
 }
 
@@ -97,15 +94,16 @@ bool TFSubjectTableExport::saveTo(const QString &folder, const TFTreeStruct &hea
 }
 
 void TFSubjectTableExport::request(int type, const TFUc::TFRequestContent &content,
-                                   TFSubject::TFJsonParser *parser, TFTreeStruct *header)
+                                   const TFTreeStruct *header)
 {
+    m_type = type;
     beginProgress();
     m_progress->setStep(tr("正在取数据..."));
     const auto take = [=, run = m_run](bool isOk, const QByteArray &data) {
         if (run != m_run || !isBusy())
             return;
         if (isOk) {
-            takeReply(type, data, parser, header);
+            takeReply(data, *header);
             return;
         }
         qCDebug(lcExport) << "isOk:" << isOk << data;
@@ -115,43 +113,34 @@ void TFSubjectTableExport::request(int type, const TFUc::TFRequestContent &conte
     TFDm::startRequest(content, this, take);
 }
 
-void TFSubjectTableExport::takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser,
-                                     TFTreeStruct *header)
+void TFSubjectTableExport::takeReply(const QByteArray &data, const TFTreeStruct &header)
 {
-    if (data.size() < kLongReply) {
-        readRows(type, data, parser, header);
-        return;
-    }
-    // Reading holds the window; the dialog says so first.
     m_progress->setStep(tr("正在整理数据..."));
-    m_progress->show();
-    QTimer::singleShot(kPaintTime, this, [=, run = m_run] {
-        if (run == m_run && isBusy())
-            readRows(type, data, parser, header);
-    });
+    m_reading = TFExportReadingJob::start(data, header);
+    m_pollTimer.start();
 }
 
-void TFSubjectTableExport::readRows(int type, const QByteArray &data, TFSubject::TFJsonParser *parser,
-                                    TFTreeStruct *header)
+void TFSubjectTableExport::takeRows()
 {
-    QList<QList<QVariant>> rows;
-    if (!parser->parseData(data, &rows, header)) {
-        qCWarning(lcExport) << "parse data failed";
-        end();
-        fail(QStringLiteral("the rows that arrived can't be read"));
+    m_pollTimer.stop();
+    const std::shared_ptr<TFExportReadingJob> reading = std::move(m_reading);
+    if (reading->isGood()) {
+        saveRows(reading->header(), reading->rows());
         return;
     }
-    saveRows(type, *header->clone(), rows);
+    qCWarning(lcExport) << "parse data failed";
+    end();
+    fail(QStringLiteral("the rows that arrived can't be read"));
 }
 
-void TFSubjectTableExport::saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows)
+void TFSubjectTableExport::saveRows(const TFTreeStruct &header, const QList<QList<QVariant>> &rows)
 {
     if (m_ending == Silent) {
         save(QDir(m_folder).filePath(fileName()), header, rows, Silent);
         return;
     }
     const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(fileName());
-    if (type == kOpenType) {
+    if (m_type == kOpenType) {
         saveAndOpen(uniqueFileName(path), header, rows);
         return;
     }
@@ -260,14 +249,27 @@ void TFSubjectTableExport::end()
 
 void TFSubjectTableExport::giveUp()
 {
+    giveUpJobs();
+    end();
+}
+
+void TFSubjectTableExport::giveUpJobs()
+{
+    if (m_reading)
+        m_reading->giveUp();
+    m_reading.reset();
     if (m_job)
         m_job->giveUp();
     m_job.reset();
-    end();
 }
 
 void TFSubjectTableExport::poll()
 {
+    if (m_reading) {
+        if (!m_reading->isRunning())
+            takeRows();
+        return;
+    }
     switch (m_job->state()) {
     case TFExcelWritterJob::Writing:
         m_progress->setStep(tr("正在写入..."), m_job->writtenRows(), m_job->rowCount());

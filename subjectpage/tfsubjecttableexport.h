@@ -10,12 +10,9 @@
 
 class QWidget;
 class TFExcelWritterJob;
+class TFExportReadingJob;
 class TFSubjectTableExportProgress;
 class TFTreeStruct;
-
-namespace TFSubject {
-class TFJsonParser;
-}
 
 namespace TFUc {
 struct TFRequestContent;
@@ -23,8 +20,9 @@ struct TFRequestContent;
 
 /// The export of a table: requests its rows, names the file, and writes the workbook.
 ///
-/// The window stays alive meanwhile: the workbook is written on a thread of its own, and a dialog with a way
-/// out shows how far it is. One export at a time; a command that comes while one is under way is dropped.
+/// The window stays alive meanwhile: the reply is read and the workbook written on other threads, and a
+/// dialog with a way out shows how far it is. One export at a time; a command that comes while one is under
+/// way is dropped.
 class TFSubjectTableExport : public QObject
 {
     Q_OBJECT
@@ -43,16 +41,14 @@ public:
     void setChooser(Chooser chooser) { m_chooser = std::move(chooser); }
     bool isBusy() const { return m_progress != nullptr; }
 
-    /// Sends \a content and writes the rows of its reply, as \a parser reads them, under \a header. \a type 0
-    /// writes into the application's folder and opens the file, others ask where to put it and say when it is
-    /// done. Both pointers must live as long as this object.
-    void exportRows(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
-                    TFTreeStruct *header);
+    /// Sends \a content and writes the rows of its reply under \a header, as it is when the reply comes; it
+    /// must live as long as this object. \a type 0 writes into the application's folder and opens the file,
+    /// others ask where to put it and say when it is done.
+    void exportRows(int type, const TFUc::TFRequestContent &content, const TFTreeStruct *header);
 
     /// The same without a question, a message or an opening: the workbook goes into \a folder, in place of
     /// one of its name, and saved() or failed() tells of it. Returns false where an export is under way.
-    bool exportTo(const QString &folder, const TFUc::TFRequestContent &content,
-                  TFSubject::TFJsonParser *parser, TFTreeStruct *header);
+    bool exportTo(const QString &folder, const TFUc::TFRequestContent &content, const TFTreeStruct *header);
 
     /// Writes \a header and \a rows in the same quiet way.
     bool saveTo(const QString &folder, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
@@ -81,12 +77,11 @@ signals:
 private:
     enum Ending { ShowMessage, OpenFile, Silent };
 
-    void request(int type, const TFUc::TFRequestContent &content, TFSubject::TFJsonParser *parser,
-                 TFTreeStruct *header);
+    void request(int type, const TFUc::TFRequestContent &content, const TFTreeStruct *header);
     void fail(const QString &reason);
-    void takeReply(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
-    void readRows(int type, const QByteArray &data, TFSubject::TFJsonParser *parser, TFTreeStruct *header);
-    void saveRows(int type, const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
+    void takeReply(const QByteArray &data, const TFTreeStruct &header);
+    void takeRows();
+    void saveRows(const TFTreeStruct &header, const QList<QList<QVariant>> &rows);
     void save(const QString &path, const TFTreeStruct &header, const QList<QList<QVariant>> &rows,
               Ending ending);
     QString askForNewWorkbook();
@@ -94,16 +89,19 @@ private:
     void hideProgress();
     void end();
     void giveUp();
+    void giveUpJobs();
     void poll();
     void showResult(const TFExcelWritterJob &job);
     void warn(const QString &text);
 
     QWidget *m_table;
     Chooser m_chooser;
+    int m_type = 0;
     Ending m_ending = ShowMessage;
     QString m_folder; ///< of a silent export
     int m_run = 0;    ///< number of the export under way; a reply to an earlier one is stale
     QTimer m_pollTimer;
+    std::shared_ptr<TFExportReadingJob> m_reading;
     std::shared_ptr<TFExcelWritterJob> m_job;
     TFSubjectTableExportProgress *m_progress = nullptr; ///< there while an export is under way
 };

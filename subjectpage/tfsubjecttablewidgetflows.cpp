@@ -273,12 +273,12 @@ void TFSubjectTableWidget::setDataCount(int total, int pageIndex, int pageSize)
 
 void TFSubjectTableWidget::exportRows(int type)
 {
-    m_export->exportRows(type, exportRequest(), m_parser, m_header.get());
+    m_export->exportRows(type, exportRequest(), m_header.get());
 }
 
 void TFSubjectTableWidget::exportTo(const QString &folder)
 {
-    m_export->exportTo(folder, exportRequest(), m_parser, m_header.get());
+    m_export->exportTo(folder, exportRequest(), m_header.get());
 }
 
 TFUc::TFRequestContent TFSubjectTableWidget::exportRequest() const

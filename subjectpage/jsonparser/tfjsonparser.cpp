@@ -5,6 +5,7 @@
 #include "tfbandtreebuilder.h"
 #include "tfcaption.h"
 #include "tfdatajsontable.h"
+#include "tfexportedrows.h"
 #include "tffilterjsontable.h"
 #include "tfheaderfieldconfigdata.h"
 #include "tfjsontablefactory.h"
@@ -104,6 +105,11 @@ bool TFJsonParser::parseData(const QJsonValue &payload, const TFRawRowsPtr &rows
     m_rows.clear();
     buildRows();
     return true;
+}
+
+bool TFJsonParser::parseData(const QByteArray &json, QList<QList<QVariant>> *out, TFTreeStruct *header)
+{
+    return TFExportedRows::read(json, out, header, false);
 }
 
 void TFJsonParser::clearData()

@@ -67,12 +67,21 @@ private:
 };
 } // namespace
 
-bool TFRowsReply::read(const QByteArray &json, TFRowsReply &out)
+TFRawRowsPtr TFRowsReply::split(const QByteArray &json, QByteArray &rest)
 {
     RowsFinder finder(json);
-    const bool isApart = finder.find();
-    if (!TFJSP::parseResponse(isApart ? finder.jsonWithoutRows() : json, out.envelope))
+    if (!finder.find())
+        return nullptr;
+    rest = finder.jsonWithoutRows();
+    return finder.rows();
+}
+
+bool TFRowsReply::read(const QByteArray &json, TFRowsReply &out)
+{
+    QByteArray rest;
+    const TFRawRowsPtr rows = split(json, rest);
+    if (!TFJSP::parseResponse(rows ? rest : json, out.envelope))
         return false;
-    out.rows = isApart ? finder.rows() : nullptr;
+    out.rows = rows;
     return true;
 }

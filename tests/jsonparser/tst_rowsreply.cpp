@@ -1,6 +1,9 @@
 #include "subjecttest.h"
 
 #include "jsonparser/tfdatajsontable.h"
+#include "jsonparser/tfexportvalue.h"
+#include "jsonparser/tfjsonparser.h"
+#include "mulittable/tfheaderdatastruct.h"
 #include "net/tfrowsreply.h"
 
 #include <QJsonArray>
@@ -147,6 +150,49 @@ QByteArray bytes(const NtResponse &response)
     return bytes(response.state, response.msg, response.extend, response.data);
 }
 
+using Rows = QList<QList<QVariant>>;
+
+/// Leaves of each type for some fields of the replies.
+void fillHeader(TFTreeStruct &header)
+{
+    for (const char *type : {"Decimal", "String", "DateTime", "Int32"}) {
+        for (const char *field : {"A", "元", "bA", "no such"}) {
+            HeaderFieldInfo info;
+            info.fieldName = field;
+            info.valueType = type;
+            header.addChild(new TFTreeStruct(info));
+        }
+    }
+}
+
+/// What the export makes of the reply, by way of the toolkit's parser.
+bool exportPlainly(const QByteArray &json, Rows &rows, TFTreeStruct &header)
+{
+    const QJsonObject reply = QJsonDocument::fromJson(json).object();
+    const QJsonObject payload = reply.value("data").toObject();
+    if (reply.value("state").toInt() != 1 || payload.isEmpty())
+        return false;
+    for (const QJsonValue &row : payload.value("Data").toArray()) {
+        const QVariantMap map = row.toObject().toVariantMap();
+        rows.append(QList<QVariant>());
+        for (const TFTreeStruct *leaf : header.leaves()) {
+            TFTableModelData::tagCellValue cell;
+            cell.valueType = leaf->info().valueType;
+            rows.last().append(TFExportValue::convert(cell, map.value(leaf->info().fieldName)));
+        }
+    }
+    return true;
+}
+
+bool isExportedAlike(const QByteArray &json)
+{
+    TFTreeStruct header{QString()};
+    fillHeader(header);
+    Rows rows, plain;
+    const bool isRead = TFSubject::TFJsonParser().parseData(json, &rows, &header);
+    return isRead == exportPlainly(json, plain, header) && bytes(rows) == bytes(plain);
+}
+
 /// Reads both ways; true when the rows came apart.
 bool compare(const QByteArray &json)
 {
@@ -166,6 +212,8 @@ bool compare(const QByteArray &json)
     }
     if (isRead != isGood || bytes(apart.rows()) != bytes(rows) || bytes(reply.envelope) != bytes(plain))
         QTest::qFail(json.toPercentEncoding(" {}[]:,\"\\"), __FILE__, __LINE__);
+    if (!isExportedAlike(json))
+        QTest::qFail("exported: " + json.toPercentEncoding(" {}[]:,\"\\"), __FILE__, __LINE__);
     return bool(reply.rows);
 }
 } // namespace

@@ -1,19 +1,16 @@
-// The export path of the parser: it reads a reply of its own and touches nothing of the page.
-
-#include "tfjsonparser.h"
+#include "tfexportedrows.h"
 
 #include "expression/expressionparse.h"
 #include "mulittable/tfheaderdatastruct.h"
+#include "net/tfrowsreply.h"
 #include "records/tfcategories.h"
-#include "tfdatajsontable.h"
 #include "tfexportvalue.h"
 #include "tfrowbuilder.h"
 #include "tftablenames.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-namespace TFSubject {
 
 namespace {
 constexpr QLatin1String StateKey("state");
@@ -22,7 +19,7 @@ constexpr QLatin1String PayloadKey("data");
 constexpr int GoodState = 1;
 
 /// The payload of a reply; empty, with a debug line, for a bad one.
-QJsonObject payloadOf(const QByteArray &json, const char *function)
+QJsonObject payloadOf(const QByteArray &json)
 {
     if (json.isEmpty()) {
         qCDebug(lcExport) << "json is Empty";
@@ -31,7 +28,8 @@ QJsonObject payloadOf(const QByteArray &json, const char *function)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        qCDebug(lcExport) << function << "read json file failed..." << error.errorString();
+        qCDebug(lcExport) << "parseData"
+                          << "read json file failed..." << error.errorString();
         return {};
     }
     const QJsonObject reply = document.object();
@@ -52,7 +50,7 @@ QStringList fieldsOf(const QList<TFTreeStruct *> &leaves)
     return fields;
 }
 
-TFRowStore rowsOf(const TFDataJsonTable &table, const QList<TFTreeStruct *> &leaves)
+TFRowStore build(const TFRawRowsPtr &rows, const QList<TFTreeStruct *> &leaves)
 {
     // Each cell is computed as by a parser of its own, without the cost of one.
     std::unique_ptr<ExpressionParse> parser;
@@ -64,25 +62,28 @@ TFRowStore rowsOf(const TFDataJsonTable &table, const QList<TFTreeStruct *> &lea
     };
     return TFRowBuilder(
                leaves, [](const QString &) { return QString(); }, freshParser)
-        .build(table.rawRows());
+        .build(rows);
 }
 } // namespace
 
-bool TFJsonParser::parseData(const QByteArray &json, QList<QList<QVariant>> *out, TFTreeStruct *header)
+bool TFExportedRows::read(const QByteArray &json, Rows *out, TFTreeStruct *header,
+                          const std::atomic_bool &isGivenUp)
 {
-    const QJsonObject payload = payloadOf(json, __FUNCTION__);
+    QByteArray rest;
+    TFRawRowsPtr raw = TFRowsReply::split(json, rest);
+    const QJsonObject payload = payloadOf(raw ? rest : json);
     if (payload.isEmpty())
         return false;
-    TFDataJsonTable table;
-    table.initWith(payload.value(TFTableName::Data));
+    if (!raw)
+        raw = TFRawRows::fromJson(payload.value(TFTableName::Data).toArray());
 
     const QList<TFTreeStruct *> leaves = header ? header->leaves() : QList<TFTreeStruct *>();
     for (const TFTreeStruct *leaf : leaves)
         qCDebug(lcExport) << "header: " << leaf->displayCaption() << leaf->info().columnType
                           << leaf->info().visible;
-    const TFRowStore rows = rowsOf(table, leaves);
+    const TFRowStore rows = build(raw, leaves);
     out->reserve(out->size() + rows.rowCount());
-    for (int row = 0; row < rows.rowCount(); ++row) {
+    for (int row = 0; row < rows.rowCount() && !isGivenUp; ++row) {
         qCDebug(lcExport) << "visible fields in head: " << fieldsOf(leaves);
         QList<QVariant> values;
         values.reserve(leaves.size());
@@ -90,7 +91,5 @@ bool TFJsonParser::parseData(const QByteArray &json, QList<QList<QVariant>> *out
             values.append(TFExportValue::convert(rows.prototype(row, cell), rows.value(row, cell)));
         out->append(values);
     }
-    return true;
+    return !isGivenUp;
 }
-
-} // namespace TFSubject
