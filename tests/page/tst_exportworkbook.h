@@ -13,12 +13,13 @@
 class ExportedWorkbook
 {
 public:
-    explicit ExportedWorkbook(const QString &path)
-        : ExportedWorkbook(std::make_unique<QXlsx::Document>(path))
-    {}
-    explicit ExportedWorkbook(QIODevice *device)
-        : ExportedWorkbook(std::make_unique<QXlsx::Document>(device))
-    {}
+    /// \a place: a path or a device.
+    template <typename Place>
+    explicit ExportedWorkbook(const Place &place)
+        : m_document(std::make_unique<QXlsx::Document>(place))
+    {
+        readSheet();
+    }
 
     /// One string a row, one "cell value" each with the short name of its number format: 'd', 'i', 't' for a
     /// double, an integer, a date. Texts stand in quotes, '*' marks bold, '!' what is not centred.
@@ -29,14 +30,20 @@ public:
             rows.append(cells.values().join(" | "));
         return rows;
     }
+    /// The rows, merges and widths, a line each.
+    QString text() const
+    {
+        QStringList lines = rows() << merges << widths;
+        lines.removeAll(QString());
+        return lines.join('\n');
+    }
     QString merges; ///< in the order of the sheet
-    QString widths; ///< such as "1:25 2:25", of the columns whose width is set
+    QString widths; ///< such as "1:25 2:25", of the first columns whose width is set
     /// Of the cell, to its last bit.
     double number(int row, int col) const { return m_document->read(row, col).toDouble(); }
 
 private:
-    explicit ExportedWorkbook(std::unique_ptr<QXlsx::Document> document)
-        : m_document(std::move(document))
+    void readSheet()
     {
         QXlsx::Worksheet *sheet = m_document->currentWorksheet();
         const QList<QXlsx::CellRange> ranges = sheet->mergedCells();
@@ -47,7 +54,7 @@ private:
         for (const auto &place : cells)
             m_rows[place.row][place.col] =
                 QXlsx::CellReference(place.row, place.col).toString() + ' ' + written(*place.cell);
-        for (int col = 1; col <= lastColumn + 1; ++col) {
+        for (int col = 1; col <= qMin(lastColumn + 1, 50); ++col) {
             if (const double width = sheet->columnWidth(col); width > 20)
                 widths += QString("%1:%2 ").arg(col).arg(width);
         }
