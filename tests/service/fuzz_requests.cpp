@@ -23,18 +23,15 @@ namespace {
 struct Target
 {
     Target()
-        : database(fixture.databaseAddress())
+        : database(fixture.openDatabase())
     {
-        QLoggingCategory::setFilterRules(QStringLiteral("subject.service.*=false"));
+        QLoggingCategory::setFilterRules("subject.service.*=false");
         fixture.writeStandardViews();
-        QString fault;
-        if (!database.open(&fault))
-            qFatal("%s", qPrintable(fault));
-        library = std::make_unique<ViewLibrary>(fixture.viewFolder(), database);
+        library = std::make_unique<ViewLibrary>(fixture.viewFolder(), *database);
     }
 
     ServiceFixture fixture;
-    Database database;
+    std::unique_ptr<Database> database;
     std::unique_ptr<ViewLibrary> library;
 };
 
@@ -45,10 +42,10 @@ int ask(const QByteArray &body)
     int served = 0;
     static Target target;
     const RequestHandler handler(*target.library, Limits());
-    for (const Reply &reply : {handler.subjectData(body, Identity(), target.database),
-                               handler.namedData(body, Identity(), target.database)}) {
+    for (const Reply &reply : {handler.subjectData(body, Identity(), *target.database),
+                               handler.namedData(body, Identity(), *target.database)}) {
         const QJsonObject envelope = QJsonDocument::fromJson(reply.body).object();
-        const int state = envelope.value(QLatin1String("state")).toInt();
+        const int state = envelope.value("state").toInt();
         const bool isGood = reply.status == 200 ? state == 1 : reply.status == 400 && state == -400;
         if (!isGood || envelope.size() != 4)
             qFatal("status %d, %s\nfor %s", reply.status, reply.body.left(300).constData(), body.constData());

@@ -67,7 +67,7 @@ Answer post(quint16 port, const QString &path, const QByteArray &body, const Hea
 {
     QNetworkAccessManager manager;
     QNetworkRequest request = requestFor(port, path);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, "application/json");
     request.setRawHeader("userId", "tester");
     for (const auto &header : headers)
         request.setRawHeader(header.first, header.second);

@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include <memory>
+
 /// A folder with documents of views, and a small database that they show: an SQLite file, or, where
 /// SUBJECT_TEST_POSTGRES names a PostgreSQL server (see tests/support/with-postgres), a schema of its own
 /// there.
@@ -23,6 +25,8 @@ public:
 
     /// The database as the service takes it.
     QString databaseAddress() const;
+    /// A connection as the service has it; ends the test where there is none.
+    std::unique_ptr<service::Database> openDatabase() const;
     QString viewFolder() const { return m_folder.filePath(QStringLiteral("views")); }
     QString filePath(const QString &name) const { return m_folder.filePath(name); }
 

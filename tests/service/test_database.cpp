@@ -22,9 +22,7 @@ private slots:
     void init()
     {
         beginMessages();
-        m_database = std::make_unique<Database>(m_fixture.databaseAddress());
-        QString fault;
-        QVERIFY2(m_database->open(&fault), qPrintable(fault));
+        m_database = m_fixture.openDatabase();
     }
 
     void timeLimitEndsAStatementAndNothingElse()

@@ -284,9 +284,7 @@ private slots:
         }
         m_fixture.change({"CREATE TABLE sample (ID INTEGER, T TEXT, N DOUBLE PRECISION, D TEXT)",
                           "INSERT INTO sample VALUES " + values.join(", ")});
-        m_database = std::make_unique<Database>(m_fixture.databaseAddress());
-        QString fault;
-        QVERIFY2(m_database->open(&fault), qPrintable(fault));
+        m_database = m_fixture.openDatabase();
     }
 
     void theDatabaseAnswersAsTheFilterMeans()

@@ -79,9 +79,7 @@ private slots:
         beginMessages();
         m_fixture = std::make_unique<ServiceFixture>();
         m_fixture->writeStandardViews();
-        m_database = std::make_unique<Database>(m_fixture->databaseAddress());
-        QString fault;
-        QVERIFY2(m_database->open(&fault), qPrintable(fault));
+        m_database = m_fixture->openDatabase();
     }
 
     void cleanup()
