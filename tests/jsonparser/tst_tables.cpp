@@ -210,7 +210,6 @@ void TestTables::filtersKeepTheirWireTypes()
 
     table.initWith(QJsonArray{QJsonObject()});
     QVERIFY(table.filters().isEmpty());
-    QVERIFY(debugLines().value(0).contains("Json parse error: "));
 }
 
 void TestTables::chartKeepsFactorsAsTheyCome()
@@ -227,7 +226,6 @@ void TestTables::chartKeepsFactorsAsTheyCome()
 
     table.initWith(QString("{\"Title\":"));
     QVERIFY(table.config().Title.isEmpty() && table.config().ChartDataConfigs.isEmpty());
-    QVERIFY(debugLines().value(0).contains("Json parse error: "));
 }
 
 void TestTables::summaryKeepsWhatALaterPageLacks()

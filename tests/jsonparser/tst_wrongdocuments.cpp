@@ -62,11 +62,9 @@ const QJsonArray Faults =
         R"([null, true, 1, -1e300, 0.5, "x", "[", "[{}]", "{}", [], {}, [[]], [{}], [null, 1]])")
         .array();
 
-using Visit = std::function<void(const QJsonValue &)>;
-
 /// Visits every document that differs from \a value in one place: a member, an element or what a text holds
 /// replaced by a fault, or left out.
-void forEachFault(const QJsonValue &value, const Visit &visit)
+void forEachFault(const QJsonValue &value, const std::function<void(const QJsonValue &)> &visit)
 {
     for (const QJsonValue &fault : Faults)
         visit(fault);
