@@ -235,9 +235,11 @@ private:
             show(page);
         else
             inspection(page)->perform(step, &reason);
+        if (any > 0)
+            return;
         TFSubjectPage another; // closed while it loads
         another.init(QUrl("view://subjectpage?pnodecode=61&objvwid=" + anyView()), {});
-        QTest::qWait(any * 3);
+        QTest::qWait(m_spoiler->below(15));
     }
 
     void show(const TFSubjectPage &page)
