@@ -47,6 +47,8 @@ bool isSame(const QString &cell, const QJsonValue &shown)
     bool isNumber = false;
     const double number = QLocale(QLocale::English).toDouble(text, &isNumber);
     const QString content = cell.section(' ', 1);
+    if (content.section(' ', 0, 0) == "-") // a cell without a value
+        return text.isEmpty();
     if (!isNumber || content.startsWith('\''))
         return content.mid(1, content.lastIndexOf('\'') - 1).trimmed() == text;
     const int dot = text.indexOf('.');
