@@ -30,7 +30,6 @@ class TestFilterService : public SubjectTest
 private slots:
     void initTestCase()
     {
-        m_fixture.writeStandardViews();
         m_fixture.write("40.json", object(R"({
             'id': 40, 'name': '按月', 'order': 'SYMBOL ASC', 'key': 'SYMBOL',
             'sql': 'SELECT SYMBOL, SECTOR, PRICE, DAY, EXCHANGE, EXCHANGE AS PROVINCE,

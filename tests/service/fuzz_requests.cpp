@@ -26,7 +26,6 @@ struct Target
         : database(fixture.openDatabase())
     {
         QLoggingCategory::setFilterRules("subject.service.*=false");
-        fixture.writeStandardViews();
         library = std::make_unique<ViewLibrary>(fixture.viewFolder(), *database);
     }
 

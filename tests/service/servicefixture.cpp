@@ -43,6 +43,7 @@ ServiceFixture::ServiceFixture()
            << "INSERT INTO curve VALUES ('2020-01-01','10年',10,3.1,5), ('2020-01-01','1年',1,2.0,6),"
               " ('2020-01-01','3月',0.25,1.5,7), ('2020-01-02','1年',1,2.1,NULL),"
               " ('2020-01-02','10年',10,3.2,8)");
+    writeViews();
 }
 
 ServiceFixture::~ServiceFixture()
@@ -144,7 +145,7 @@ QJsonObject ServiceFixture::tableDocument()
         'block': 'SECTOR'})");
 }
 
-void ServiceFixture::writeStandardViews() const
+void ServiceFixture::writeViews() const
 {
     write("a/10.json", tableDocument());
     write("a/b/11.json", object(R"({

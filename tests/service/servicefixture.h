@@ -7,9 +7,9 @@
 
 #include <memory>
 
-/// A folder with documents of views, and a small database that they show: an SQLite file, or, where
-/// SUBJECT_TEST_POSTGRES names a PostgreSQL server (see tests/support/with-postgres), a schema of its own
-/// there.
+/// A folder with documents of views (10, a table; 11, its child; 12, a cross view; and the other files), and
+/// a small database that they show: an SQLite file, or, where SUBJECT_TEST_POSTGRES names a PostgreSQL server
+/// (see tests/support/with-postgres), a schema of its own there.
 ///
 /// The table `price` holds 12 rows: symbols S01 to S12, sectors 1 to 3 in turn, prices 1.5 times the number
 /// but NULL for S05, days 2020-01-01 to 2020-01-12, each third with a time of day, exchanges A and B in turn,
@@ -34,10 +34,6 @@ public:
     void write(const QString &name, const QJsonObject &document) const;
     void write(const QString &name, const QByteArray &text) const;
 
-    /// Writes the documents that most tests use: view 10 (table), 11 (its child), 12 (cross), and the other
-    /// files.
-    void writeStandardViews() const;
-
     /// Runs statements on a connection that may write.
     void change(const QStringList &statements) const;
 
@@ -48,6 +44,7 @@ public:
     static QJsonObject tableDocument();
 
 private:
+    void writeViews() const;
     void changeFile(const QStringList &statements) const;
     void changeServer(const QStringList &statements) const;
 

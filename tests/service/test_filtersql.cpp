@@ -90,42 +90,34 @@ private slots:
         QTest::addColumn<QString>("filter");
         QTest::addColumn<QString>("parameters");
         QTest::addColumn<QString>("start");
+        const auto fault = [](const char *filter, const char *parameters, const char *start) {
+            testRow(filter, QString(filter), QString(parameters), QString(start));
+        };
 
-        testRow("(PRICE = :P)", "(PRICE = :P)", "{'P': 1}",
-                "400 filter: position 8: unknown operator \"=\"; accepted are > >=");
-        testRow("(PRICE LIKE :P)", "(PRICE LIKE :P)", "{'P': 1}",
-                "400 filter: position 8: unknown operator \"LIKE\"");
-        testRow("(PRICE > :P) || (PRICE < :P)", "(PRICE > :P) || (PRICE < :P)", "{'P': 1}",
-                "400 filter: position 14: expected \"&&\" or the end, found \"||\"");
-        testRow("(NOPE > :P)", "(NOPE > :P)", "{'P': 1}",
-                "400 filter: position 2: no field \"NOPE\"; columns are SYMBOL, PRICE");
-        testRow("(PRICE > :P)", "(PRICE > :P)", "{}",
-                "400 filter: position 10: no value for :P in filterParams");
-        testRow("(PRICE > :)", "(PRICE > :)", "{}", "400 filter: position 10: a parameter's name is missing");
-        testRow("(PRICE > :P", "(PRICE > :P", "{'P': 1}",
-                "400 filter: position 12: expected \"&&\" or \")\", found the end");
-        testRow("(PRICE > :P))", "(PRICE > :P))", "{'P': 1}",
-                "400 filter: position 13: expected \"&&\" or the end, found \")\"");
-        testRow("() && (PRICE > 1)", "() && (PRICE > 1)", "{}",
-                "400 filter: position 2: expected a field, found \")\"");
-        testRow("(SYMBOL == 'abc)", "(SYMBOL == 'abc)", "{}", "400 filter: position 12: \"'\" is missing");
-        testRow("PRICE > 1; DROP TABLE x", "PRICE > 1; DROP TABLE x", "{}",
-                "400 filter: position 10: unexpected \";\"");
-        testRow("PRICE > 1 OR 1 == 1", "PRICE > 1 OR 1 == 1", "{}",
-                "400 filter: position 11: expected \"&&\" or the end, found \"OR\"");
-        testRow("(PRICE > :P) &&", "(PRICE > :P) &&", "{'P': 1}",
-                "400 filter: position 16: expected a field, found the end");
-        testRow("PRICE > :Q", "PRICE > :Q", "{'Q': 'abc'}", "400 filterParams.Q: \"abc\" is no number");
-        testRow("PRICE > :L", "PRICE > :L", "{'L': [1, 2]}",
-                "400 filterParams.L: operator > takes one text or number");
-        testRow("PRICE in :O", "PRICE in :O", "{'O': [{}]}",
-                "400 filterParams.O: a list holds texts and numbers only");
-        testRow("DAY > :D", "DAY > :D", "{'D': '2020-13-01'}",
-                "400 filterParams.D: \"2020-13-01\" is no date");
-        testRow("DAY > [2020-02-30]", "DAY > [2020-02-30]", "{}",
-                "400 filter: position 7: \"[2020-02-30]\" is no date");
-        testRow("PRICE > :N", "PRICE > :N", "{'N': null}",
-                "400 filterParams.N: null goes with == and != only");
+        fault("(PRICE = :P)", "{'P': 1}",
+              "400 filter: position 8: unknown operator \"=\"; accepted are > >=");
+        fault("(PRICE LIKE :P)", "{'P': 1}", "400 filter: position 8: unknown operator \"LIKE\"");
+        fault("(PRICE > :P) || (PRICE < :P)", "{'P': 1}",
+              "400 filter: position 14: expected \"&&\" or the end, found \"||\"");
+        fault("(NOPE > :P)", "{'P': 1}",
+              "400 filter: position 2: no field \"NOPE\"; columns are SYMBOL, PRICE");
+        fault("(PRICE > :P)", "{}", "400 filter: position 10: no value for :P in filterParams");
+        fault("(PRICE > :)", "{}", "400 filter: position 10: a parameter's name is missing");
+        fault("(PRICE > :P", "{'P': 1}", "400 filter: position 12: expected \"&&\" or \")\", found the end");
+        fault("(PRICE > :P))", "{'P': 1}",
+              "400 filter: position 13: expected \"&&\" or the end, found \")\"");
+        fault("() && (PRICE > 1)", "{}", "400 filter: position 2: expected a field, found \")\"");
+        fault("(SYMBOL == 'abc)", "{}", "400 filter: position 12: \"'\" is missing");
+        fault("PRICE > 1; DROP TABLE x", "{}", "400 filter: position 10: unexpected \";\"");
+        fault("PRICE > 1 OR 1 == 1", "{}",
+              "400 filter: position 11: expected \"&&\" or the end, found \"OR\"");
+        fault("(PRICE > :P) &&", "{'P': 1}", "400 filter: position 16: expected a field, found the end");
+        fault("PRICE > :Q", "{'Q': 'abc'}", "400 filterParams.Q: \"abc\" is no number");
+        fault("PRICE > :L", "{'L': [1, 2]}", "400 filterParams.L: operator > takes one text or number");
+        fault("PRICE in :O", "{'O': [{}]}", "400 filterParams.O: a list holds texts and numbers only");
+        fault("DAY > :D", "{'D': '2020-13-01'}", "400 filterParams.D: \"2020-13-01\" is no date");
+        fault("DAY > [2020-02-30]", "{}", "400 filter: position 7: \"[2020-02-30]\" is no date");
+        fault("PRICE > :N", "{'N': null}", "400 filterParams.N: null goes with == and != only");
     }
 
     void faultsNameTheirPlace()

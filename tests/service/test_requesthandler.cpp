@@ -60,7 +60,6 @@ private slots:
     {
         beginMessages();
         m_fixture = std::make_unique<ServiceFixture>();
-        m_fixture->writeStandardViews();
         m_database = m_fixture->openDatabase();
         m_library = std::make_unique<ViewLibrary>(m_fixture->viewFolder(), *m_database);
         QCOMPARE(m_library->faults(), QStringList());

@@ -66,7 +66,6 @@ private slots:
     {
         beginMessages();
         m_fixture = std::make_unique<ServiceFixture>();
-        m_fixture->writeStandardViews();
     }
 
     void aViewOfOtherProductsIsNotThere()

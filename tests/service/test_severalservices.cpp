@@ -93,8 +93,6 @@ class TestSeveralServices : public SubjectTest
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_fixture.writeStandardViews(); }
-
     void pagesFromEitherProcessFitTogether()
     {
         RunningService first(m_fixture);

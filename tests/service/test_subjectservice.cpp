@@ -23,7 +23,6 @@ private slots:
     {
         beginMessages();
         m_fixture = std::make_unique<ServiceFixture>();
-        m_fixture->writeStandardViews();
     }
 
     void refusalsCarryStatusAndEnvelope_data()

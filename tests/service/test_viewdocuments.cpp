@@ -78,7 +78,6 @@ private slots:
     {
         beginMessages();
         m_fixture = std::make_unique<ServiceFixture>();
-        m_fixture->writeStandardViews();
         m_database = m_fixture->openDatabase();
     }
 
