@@ -144,6 +144,9 @@ private slots:
         m_library = std::make_unique<service::ViewLibrary>(DemoData::views(), m_database);
     }
 
+    /// What was fading on a page that went is freed a moment later.
+    void cleanupTestCase() { QTest::qWait(200); }
+
     void pageOutlivesSpoiledReplies_data()
     {
         QTest::addColumn<int>("seed");
